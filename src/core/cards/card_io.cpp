@@ -1,0 +1,105 @@
+#include "core/cards/card_io.hpp"
+
+#include "core/cards/failure.hpp"
+#include "core/cards/numbers.hpp"
+
+#include <array>
+#include <charconv>
+
+namespace kov {
+namespace {
+
+constexpr std::size_t FieldWidth = 10;
+
+/// A field of blanks with the number written into it, as plain number text.
+template <typename Integer> Fixed<10> numberField(Integer value, std::string_view behind) {
+    std::array<char, 16> buffer{};
+    buffer[0] = ' ';
+    auto* first = value < 0 ? buffer.data() : buffer.data() + 1;
+    auto* end = std::to_chars(first, buffer.data() + buffer.size() - 1, value).ptr;
+    for (const char c : behind) {
+        *end++ = c;
+    }
+    return {std::string_view(buffer.data(), static_cast<std::size_t>(end - buffer.data()))};
+}
+
+void requireField(std::size_t number, std::size_t highest) {
+    if (number < 1 || number > highest) {
+        throw Failure("Subscript out of range");
+    }
+}
+
+} // namespace
+
+Fixed<10> CardInt(std::int16_t value) { return numberField(value, ""); }
+Fixed<10> CardReal(std::int32_t value) { return numberField(value, "."); }
+
+std::string_view CardReader::readLine() {
+    if (next_ >= text_.size()) {
+        throw Failure("Input past end of file");
+    }
+    const auto end = text_.find('\n', next_);
+    auto line = text_.substr(next_, end == std::string_view::npos ? end : end - next_);
+    next_ = end == std::string_view::npos ? text_.size() : end + 1;
+    if (!line.empty() && line.back() == '\r') {
+        line.remove_suffix(1);
+    }
+    return line;
+}
+
+std::string_view CardReader::lineEndOf(std::string_view text) {
+    const auto end = text.find('\n');
+    if (end == std::string_view::npos) {
+        return {};
+    }
+    return end > 0 && text[end - 1] == '\r' ? "\r\n" : "\n";
+}
+
+std::string_view columns(std::string_view line, std::size_t first, std::size_t last) {
+    return first > line.size() ? std::string_view{} : line.substr(first - 1, last - first + 1);
+}
+
+std::string_view Card8::field(std::size_t number) const {
+    requireField(number, 8);
+    return trimLeft(columns_.view().substr((number - 1) * FieldWidth, FieldWidth));
+}
+
+std::string_view Card4::field(std::size_t number) const {
+    requireField(number, 4);
+    return trimLeft(columns(line_, (number - 1) * FieldWidth + 1, number * FieldWidth));
+}
+
+bool ReadCard8(CardReader& reader, Card8& card) {
+    try {
+        card.assign(reader.readLine());
+    } catch (const Failure&) {
+        return false;
+    }
+    return true;
+}
+
+bool ReadCard4(CardReader& reader, Card4& card) {
+    try {
+        card.assign(reader.readLine());
+    } catch (const Failure&) {
+        return false;
+    }
+    return true;
+}
+
+CardWriter& CardWriter::integer(std::int16_t value) { return field(CardInt(value)); }
+
+CardWriter& CardWriter::tabTo(std::size_t column) {
+    const auto width = out_.size() - lineStart_;
+    if (width + 1 < column) {
+        out_.append(column - 1 - width, ' ');
+    }
+    return *this;
+}
+
+void CardWriter::endCard() {
+    out_.append(lineEnd_);
+    lineStart_ = out_.size();
+}
+
+} // namespace kov

@@ -1,0 +1,51 @@
+#include "platform/item_list.hpp"
+
+#include <stdexcept>
+
+namespace kov {
+
+void ItemList::clear() {
+    items_.clear();
+    index_ = -1;
+    ++revision_;
+}
+
+void ItemList::addItem(std::string_view text) {
+    items_.push_back({std::string(text), false});
+    ++revision_;
+}
+
+void ItemList::removeItem(int index) {
+    static_cast<void>(item(index));
+    items_.erase(items_.begin() + index);
+    if (index_ == index) {
+        index_ = -1;
+    } else if (index_ > index) {
+        --index_;
+    }
+    ++revision_;
+}
+
+const std::string& ItemList::item(int index) const { return items_.at(static_cast<std::size_t>(index)).text; }
+
+void ItemList::setItem(int index, std::string_view text) {
+    items_.at(static_cast<std::size_t>(index)).text = text;
+    ++revision_;
+}
+
+void ItemList::setIndex(int index) {
+    if (index < -1 || index >= count()) {
+        throw std::out_of_range("Invalid property array index");
+    }
+    index_ = index;
+    ++revision_;
+}
+
+bool ItemList::selected(int index) const { return items_.at(static_cast<std::size_t>(index)).selected; }
+
+void ItemList::setSelected(int index, bool selected) {
+    items_.at(static_cast<std::size_t>(index)).selected = selected;
+    ++revision_;
+}
+
+} // namespace kov
