@@ -1,0 +1,89 @@
+#include "platform/window.hpp"
+
+#include <stdexcept>
+
+namespace kov {
+namespace {
+
+Control::Part partOf(ControlKind kind) {
+    switch (kind) {
+    case ControlKind::TextBox:
+        return TextPart{};
+    case ControlKind::List:
+        return ListPart{};
+    case ControlKind::Combo:
+        return ComboPart{};
+    case ControlKind::Grid:
+        return Grid{};
+    case ControlKind::TabStrip:
+        return TabPart{};
+    case ControlKind::Progress:
+        return ProgressPart{};
+    case ControlKind::Image:
+        return ImagePart{};
+    case ControlKind::Menu:
+        return MenuPart{};
+    case ControlKind::Timer:
+        return TimerPart{};
+    default:
+        return std::monostate{};
+    }
+}
+
+} // namespace
+
+Control& Window::add(ControlKind kind, std::string name, std::string caption, std::optional<int> index) {
+    auto& control = *controls_.emplace_back(std::make_unique<Control>());
+    control.kind = kind;
+    control.name = std::move(name);
+    control.caption = std::move(caption);
+    control.index = index;
+    control.window = this;
+    control.part = partOf(kind);
+    return control;
+}
+
+Control* Window::find(std::string_view name, std::optional<int> index) const {
+    for (const auto& control : controls_) {
+        if (control->name == name && (!index || control->index == index)) {
+            return control.get();
+        }
+    }
+    return nullptr;
+}
+
+Control& Window::control(std::string_view name, std::optional<int> index) const {
+    auto* found = find(name, index);
+    if (found == nullptr) {
+        throw std::out_of_range("no control " + std::string(name) + " in " + name_);
+    }
+    return *found;
+}
+
+void Window::moveTo(const Bounds& place) {
+    const bool resized = place.width != bounds.width || place.height != bounds.height;
+    bounds = place;
+    if (resized && on.resize) {
+        on.resize();
+    }
+}
+
+Control* Window::nextInTabOrder(const Control* from, bool backwards) const {
+    const int count = static_cast<int>(controls_.size());
+    int start = backwards ? 0 : count - 1;
+    for (int i = 0; i < count; ++i) {
+        if (controls_[static_cast<std::size_t>(i)].get() == from) {
+            start = i;
+        }
+    }
+    for (int step = 1; step <= count; ++step) {
+        const int place = (((backwards ? start - step : start + step) % count) + count) % count;
+        auto* candidate = controls_[static_cast<std::size_t>(place)].get();
+        if (candidate->tabStop && candidate->focusable()) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace kov
