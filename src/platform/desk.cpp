@@ -17,8 +17,30 @@ bool Desk::attempt(const std::function<bool()>& action) {
     try {
         done = action();
     } catch (const std::exception& error) {
+        if (depth_ > 1) {
+            --depth_; // the act around this one is what failed
+            throw;
+        }
         fail(error.what());
     }
+    leaveAct();
+    return done;
+}
+
+void Desk::act(const std::function<void()>& action) {
+    if (ended_) {
+        return;
+    }
+    ++depth_;
+    try {
+        action();
+    } catch (const std::exception& error) {
+        fail(error.what());
+    }
+    leaveAct();
+}
+
+void Desk::leaveAct() {
     --depth_;
     if (depth_ == 0) {
         graveyard_.clear();
@@ -26,14 +48,6 @@ bool Desk::attempt(const std::function<bool()>& action) {
     if (onChanged) {
         onChanged();
     }
-    return done;
-}
-
-void Desk::act(const std::function<void()>& action) {
-    attempt([&] {
-        action();
-        return true;
-    });
 }
 
 void Desk::fail(const std::string& what) {

@@ -93,7 +93,8 @@ public:
     bool minimize(Window& window);
     void pass(int milliseconds);
     void tick(Control& timer);
-    /// Runs an act; a failure inside ends the program.
+    /// Runs whatever came from outside; a failure inside ends the program here, also when a message box or a wait further out
+    /// is still open. A view wraps every event of its toolkit in it.
     void act(const std::function<void()>& action);
 
     // The program's own moves.
@@ -139,6 +140,7 @@ private:
     };
 
     bool attempt(const std::function<bool()>& action);
+    void leaveAct();
     void fail(const std::string& what);
     void focusFirst(Window& window);
     void focusFront();

@@ -32,30 +32,30 @@ Control::Part partOf(ControlKind kind) {
 
 } // namespace
 
-Control& Window::add(ControlKind kind, std::string name, std::string caption, std::optional<int> index) {
+Control& Window::add(ControlKind kind, std::string controlName, std::string controlCaption, std::optional<int> index) {
     auto& control = *controls_.emplace_back(std::make_unique<Control>());
     control.kind = kind;
-    control.name = std::move(name);
-    control.caption = std::move(caption);
+    control.name = std::move(controlName);
+    control.caption = std::move(controlCaption);
     control.index = index;
     control.window = this;
     control.part = partOf(kind);
     return control;
 }
 
-Control* Window::find(std::string_view name, std::optional<int> index) const {
+Control* Window::find(std::string_view controlName, std::optional<int> index) const {
     for (const auto& control : controls_) {
-        if (control->name == name && (!index || control->index == index)) {
+        if (control->name == controlName && (!index || control->index == index)) {
             return control.get();
         }
     }
     return nullptr;
 }
 
-Control& Window::control(std::string_view name, std::optional<int> index) const {
-    auto* found = find(name, index);
+Control& Window::control(std::string_view controlName, std::optional<int> index) const {
+    auto* found = find(controlName, index);
     if (found == nullptr) {
-        throw std::out_of_range("no control " + std::string(name) + " in " + name_);
+        throw std::out_of_range("no control " + std::string(controlName) + " in " + name_);
     }
     return *found;
 }

@@ -39,11 +39,11 @@ public:
     WindowEvents on;
 
     /// Adds a control at the end of the tab order, with the part that its kind needs.
-    Control& add(ControlKind kind, std::string name, std::string caption = {}, std::optional<int> index = std::nullopt);
+    Control& add(ControlKind kind, std::string controlName, std::string controlCaption = {}, std::optional<int> index = std::nullopt);
     /// None of that name is a null pointer; the name of a control array without an index finds its first element.
-    [[nodiscard]] Control* find(std::string_view name, std::optional<int> index = std::nullopt) const;
+    [[nodiscard]] Control* find(std::string_view controlName, std::optional<int> index = std::nullopt) const;
     /// The same, but a control that isn't there is a std::out_of_range.
-    [[nodiscard]] Control& control(std::string_view name, std::optional<int> index = std::nullopt) const;
+    [[nodiscard]] Control& control(std::string_view controlName, std::optional<int> index = std::nullopt) const;
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
     /// Changes the place and size and tells the window when the size is another one.
     void moveTo(const Bounds& place);
