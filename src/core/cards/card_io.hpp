@@ -25,6 +25,7 @@ public:
     [[nodiscard]] std::string_view readLine();
     /// The line end that the file uses, judged by its first line; empty when no line has ended yet.
     [[nodiscard]] static std::string_view lineEndOf(std::string_view text);
+    [[nodiscard]] std::string_view lineEnd() const { return lineEndOf(text_); }
 
 private:
     std::string_view text_;
