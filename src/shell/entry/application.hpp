@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/dataset/dataset.hpp"
+#include "platform/desk.hpp"
+
+#include <memory>
+#include <string>
+
+namespace kov {
+
+/// What the whole program shares: the one data set, the flag of unsaved changes, the program's folder, the cell under the open
+/// overlay, and the font that the engineer chose. Every window is given it.
+struct Application {
+    explicit Application(Desk& theDesk) : desk(theDesk) {}
+
+    Desk& desk;
+    std::unique_ptr<KOVDataSet> DataSet;
+    bool FileDirty = false; ///< the file has changes that are not saved
+    std::string AppPath;    ///< the program's folder, without a separator at its end
+    int GridRow = 0;        ///< row of the cell under the open overlay, from 0
+    int GridCol = 0;        ///< its column, from 0
+    std::string UserFontName;
+    int UserFontSize = 0; ///< 0: the design font
+
+    [[nodiscard]] MessageSink& messages() const { return desk.services().messages; }
+};
+
+} // namespace kov
