@@ -68,7 +68,10 @@ NodeTable KOVDataSet::buildNodeTable() const {
     return table;
 }
 
-void KOVDataSet::BuildNodes() { Nodes.BuildNodes(buildNodeTable()); }
+void KOVDataSet::BuildNodes() {
+    NodeTable table = buildNodeTable();
+    Nodes.BuildNodes(table);
+}
 
 std::int32_t KOVDataSet::progressMax() const {
     constexpr std::int32_t start = 10;
