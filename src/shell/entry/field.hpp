@@ -33,4 +33,13 @@ struct Field {
     std::string_view place; ///< Form and columns of the card
 };
 
+/// One column of a grid: what stands over it, how its cells are checked, and where they are kept.
+struct Column {
+    std::string_view caption;
+    std::string_view unit;
+    Rule rule;
+    std::string_view hint;
+    std::string_view place; ///< Form and columns of the card
+};
+
 } // namespace kov
