@@ -32,7 +32,7 @@ cSections::cSections() : DefaultSegment(makeDefaultSegment()), DefaultSection(ma
 std::shared_ptr<cSection> cSections::Add(Position position) {
     auto section = cSection::make();
     section->XCopy(*DefaultSection);
-    if (position < Position{1}) {
+    if (position.value < 1) {
         SectColl.append(section);
     } else {
         SectColl.insertBefore(position, section);
@@ -58,7 +58,7 @@ std::shared_ptr<cSection> cSections::Paste(Position position) {
     }
     auto section = cSection::make();
     section->XCopy(*ClipSection);
-    if (position >= Position{Count()}) {
+    if (position.value >= Count()) {
         SectColl.append(section);
     } else {
         SectColl.insertBefore(position, section);

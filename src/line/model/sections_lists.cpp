@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,7 @@ std::string rowText(const cSection& section) {
 
 std::vector<double> numbersWithoutSign(const ItemList& list) {
     std::vector<double> numbers;
+    numbers.reserve(static_cast<std::size_t>(list.count()));
     for (int index = 0; index < list.count(); ++index) {
         numbers.push_back(std::abs(fieldValue(list.item(index))));
     }

@@ -53,6 +53,7 @@ ItemList listOf(const Texts& texts) {
 
 Texts itemsOf(const ItemList& list) {
     Texts items;
+    items.reserve(static_cast<std::size_t>(list.count()));
     for (int index = 0; index < list.count(); ++index) {
         items.push_back(list.item(index));
     }

@@ -57,6 +57,18 @@ inline std::string written(const cSection& section) {
     return writer.take();
 }
 
+using Lines = std::vector<std::string>;
+
+/// The rows of a grid, their cells joined by tabs.
+inline Lines linesOf(const Grid& grid) {
+    Lines lines;
+    lines.reserve(static_cast<std::size_t>(grid.rows()));
+    for (int row = 0; row < grid.rows(); ++row) {
+        lines.push_back(grid.line(row));
+    }
+    return lines;
+}
+
 /// Notes what it is asked to show.
 class NotedMessages : public MessageSink {
 public:

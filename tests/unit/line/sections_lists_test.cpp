@@ -7,18 +7,9 @@
 namespace kov::test {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-Lines linesOf(const Grid& grid) {
-    Lines lines;
-    for (int row = 0; row < grid.rows(); ++row) {
-        lines.push_back(grid.line(row));
-    }
-    return lines;
-}
-
 Lines itemsOf(const ItemList& list) {
     Lines items;
+    items.reserve(static_cast<std::size_t>(list.count()));
     for (int index = 0; index < list.count(); ++index) {
         items.push_back(list.item(index));
     }

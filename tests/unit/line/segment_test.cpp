@@ -7,16 +7,6 @@
 namespace kov::test {
 namespace {
 
-std::vector<std::string> linesOf(const Grid& grid) {
-    std::vector<std::string> lines;
-    for (int row = 0; row < grid.rows(); ++row) {
-        lines.push_back(grid.line(row));
-    }
-    return lines;
-}
-
-using Lines = std::vector<std::string>;
-
 TEST(Segment, ANewOneHasItsStartingValues) {
     const cSegment segment;
     EXPECT_TRUE(segment.Daddy.expired());
