@@ -29,7 +29,7 @@ void cRoutes::Cut(Position index) {
 
 void cRoutes::Paste(Position index) {
     if (!RouteBuffer) {
-        throw Failure("Object variable not set");
+        throw Failure("Nothing has been copied");
     }
     auto route = std::make_shared<cRoute>();
     route->XCopy(*RouteBuffer);

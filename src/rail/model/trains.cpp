@@ -29,7 +29,7 @@ void cTrains::Cut(Position index) {
 
 void cTrains::Paste(Position index) {
     if (!TrainBuffer) {
-        throw Failure("Object variable not set");
+        throw Failure("Nothing has been copied");
     }
     auto train = std::make_shared<cTrain>();
     train->XCopy(*TrainBuffer);
