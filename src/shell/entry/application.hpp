@@ -2,6 +2,7 @@
 
 #include "core/dataset/dataset.hpp"
 #include "platform/desk.hpp"
+#include "shell/entry/current_file.hpp"
 
 #include <memory>
 #include <string>
@@ -15,6 +16,7 @@ struct Application {
 
     Desk& desk;
     std::unique_ptr<KOVDataSet> DataSet;
+    CurrentFile current;
     bool FileDirty = false; ///< the file has changes that are not saved
     std::string AppPath;    ///< the program's folder, without a separator at its end
     int GridRow = 0;        ///< row of the cell under the open overlay, from 0

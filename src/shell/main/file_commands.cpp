@@ -34,7 +34,7 @@ DialogRequest FileCommands::dialog(DialogKind kind) const {
     request.title = "KOV Input File";
     request.filter = "KOV Files (*.KOV;*.INP)|*.KOV;*.INP|All FIles (*.*)|*.*";
     request.defaultExtension = "KOV";
-    request.fileName = current_.KOVName;
+    request.fileName = app_.current.KOVName;
     request.folder = app_.desk.services().files.currentFolder();
     return request;
 }
@@ -53,7 +53,7 @@ bool FileCommands::changesSettled() {
 void FileCommands::startAnew() {
     app_.DataSet.reset();
     recreate(app_);
-    current_ = {};
+    app_.current = {};
     channel_.close();
     hooks_.setCaption(std::string(Caption));
     hooks_.showFields();
@@ -74,7 +74,7 @@ void FileCommands::open() {
     startAnew();
     const auto result = app_.desk.services().dialogs.show(dialog(DialogKind::Open));
     if (result.error == 0) {
-        current_ = {result.fileName, result.fileTitle};
+        app_.current = {result.fileName, result.fileTitle};
         load();
     } else if (result.error != DialogCancelled) {
         app_.messages().show(PlainBox, "", "Open Failure\rError #" + plainNumber(std::int32_t{result.error}));
@@ -86,15 +86,15 @@ void FileCommands::openRecent(std::size_t number, const std::string& caption) {
         return;
     }
     startAnew();
-    current_.KOVName = recent_.at(number);
+    app_.current.KOVName = recent_.at(number);
     // The caption is "&1 " and the path, so the short name of such a file is its whole path.
-    current_.KOVShortName = caption.size() > 3 ? caption.substr(3) : std::string{};
+    app_.current.KOVShortName = caption.size() > 3 ? caption.substr(3) : std::string{};
     load();
 }
 
 void FileCommands::load() {
     PlatformError error;
-    const auto content = channel_.openForInput(current_.KOVName, error);
+    const auto content = channel_.openForInput(app_.current.KOVName, error);
     if (error) {
         app_.messages().show(PlainBox, "",
                              "Open Failure\r\nError #" + plainNumber(std::int32_t{error.number}) + "\r\n" + error.description);
@@ -103,11 +103,11 @@ void FileCommands::load() {
     CardReader reader(content);
     app_.DataSet->lineEnd = CardReader::lineEndOf(content);
     // A failed read has told of itself; what was read is shown, and the file is the current one all the same.
-    static_cast<void>(app_.DataSet->ReadFile(reader, hooks_.progress(), app_.messages(), current_.KOVShortName));
+    static_cast<void>(app_.DataSet->ReadFile(reader, hooks_.progress(), app_.messages(), app_.current.KOVShortName));
     hooks_.showFields();
     app_.FileDirty = false;
-    mruUpdate(current_.KOVName);
-    hooks_.setCaption(titled(current_.KOVShortName));
+    mruUpdate(app_.current.KOVName);
+    hooks_.setCaption(titled(app_.current.KOVShortName));
 }
 
 void FileCommands::unloadEditors() {
@@ -122,21 +122,21 @@ void FileCommands::unloadEditors() {
 }
 
 void FileCommands::save() {
-    if (current_.KOVName.empty()) {
+    if (app_.current.KOVName.empty()) {
         saveAs();
         return;
     }
     unloadEditors();
     hooks_.storeFields();
     PlatformError error;
-    channel_.openForOutput(current_.KOVName, error);
+    channel_.openForOutput(app_.current.KOVName, error);
     if (error) {
-        app_.messages().show(PlainBox, "", "Error Opening " + current_.KOVName + " for Output \r\r" + error.description);
+        app_.messages().show(PlainBox, "", "Error Opening " + app_.current.KOVName + " for Output \r\r" + error.description);
         return;
     }
     writeAll();
     app_.FileDirty = false;
-    mruUpdate(current_.KOVName);
+    mruUpdate(app_.current.KOVName);
 }
 
 void FileCommands::writeAll() {
@@ -161,8 +161,8 @@ void FileCommands::saveAs() {
     if (result.error != 0) {
         return;
     }
-    current_ = {result.fileName, result.fileTitle};
-    hooks_.setCaption(titled(current_.KOVShortName));
+    app_.current = {result.fileName, result.fileTitle};
+    hooks_.setCaption(titled(app_.current.KOVShortName));
     save();
 }
 

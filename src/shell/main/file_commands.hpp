@@ -2,7 +2,6 @@
 
 #include "shell/entry/application.hpp"
 #include "shell/main/card_channel.hpp"
-#include "shell/main/current_file.hpp"
 #include "shell/main/recent_files.hpp"
 
 #include <functional>
@@ -38,7 +37,6 @@ public:
     /// Puts a path in front of the recent list, and makes its folder the current one.
     void mruUpdate(const std::string& path);
 
-    [[nodiscard]] CurrentFile& current() { return current_; }
     [[nodiscard]] RecentFiles& recent() { return recent_; }
     [[nodiscard]] CardChannel& channel() { return channel_; }
     [[nodiscard]] const std::string& startDir() const { return startDir_; }
@@ -56,7 +54,6 @@ private:
     Application& app_;
     MainWindowHooks hooks_;
     CardChannel channel_;
-    CurrentFile current_;
     RecentFiles recent_;
     std::string startDir_;
 };

@@ -23,7 +23,7 @@ MainWindow::MainWindow(Application& app, Window& window, std::string commandLine
                    .showRecent = [this] { mruShow(); },
                    .saveSettings = [this] { SaveSettings(); },
                    .progress = [this]() -> ProgressSink& { return progress_; }}),
-      run_(app, files_.current()) {
+      run_(app) {
     window_.caption = "KOV Input Data";
     window_.bounds = {Twips{}, Twips{}, DesignWidth, DesignHeight};
     window_.oldW = DesignWidth;
@@ -46,7 +46,7 @@ void MainWindow::load(const std::string& commandLine) {
     LoadSettings();
     window_.moveTo(start_);
     if (!commandLine.empty()) {
-        files_.current() = {commandLine, SplitPath(commandLine).name};
+        app_.current = {commandLine, SplitPath(commandLine).name};
         files_.load();
     }
     Showflds();

@@ -21,7 +21,6 @@ public:
 
     /// The data set to the window, with the buttons and entries that the options allow.
     void Showflds();
-    [[nodiscard]] const CurrentFile& current() { return files_.current(); }
 
 private:
     /// The progress bar and the busy pointer as the drivers of the card file see them.

@@ -15,7 +15,7 @@ constexpr int YesNoButtons = 4;
 
 void RunControl::run() {
     auto& processes = app_.desk.services().processes;
-    const std::string path = file_.KOVName;
+    const std::string path = app_.current.KOVName;
     const std::string commandLine = app_.AppPath + "\\kov41.exe \"" + path + "\"";
     app_.desk.setBusy(true);
     PlatformError error;
@@ -46,7 +46,7 @@ std::int32_t RunControl::waitFor(std::int32_t process) {
 }
 
 void RunControl::report(std::int32_t exitCode) {
-    const std::string path = file_.KOVName;
+    const std::string path = app_.current.KOVName;
     const auto outcome = runOutcome(exitCode, path);
     if (app_.messages().show(outcome.icon + YesNoButtons, "Run Status", outcome.message + "\r\nReview Listing?") ==
         Answer::Yes) {

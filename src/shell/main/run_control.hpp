@@ -1,7 +1,6 @@
 #pragma once
 
 #include "shell/entry/application.hpp"
-#include "shell/main/current_file.hpp"
 
 #include <cstdint>
 #include <string>
@@ -11,7 +10,7 @@ namespace kov {
 /// Starts the simulation on the saved file, waits while the windows stay alive, tells how it ended and shows its listing.
 class RunControl {
 public:
-    RunControl(Application& app, const CurrentFile& file) : app_(app), file_(file) {}
+    explicit RunControl(Application& app) : app_(app) {}
 
     /// The file must be saved and closed.
     void run();
@@ -24,7 +23,6 @@ private:
     void showListing(const std::string& inputPath);
 
     Application& app_;
-    const CurrentFile& file_;
 };
 
 } // namespace kov
