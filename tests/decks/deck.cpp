@@ -55,7 +55,7 @@ Plan largePlan(int lines) {
     plan.seed = 7;
     plan.TPOpt = 1;
     plan.ECLOpt = 1;
-    plan.lineSections = std::max(1, lines / 200);
+    plan.lineSections = std::max(1, lines / 178);
     plan.segmentsPerSection = 16; // of ten lines and a half each, on the average
     plan.heatSources = 4;
     plan.subsegmentCards = 4;

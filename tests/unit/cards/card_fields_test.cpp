@@ -39,13 +39,15 @@ TEST(CardReal, PrintsAWholeNumberWithAPoint) {
 }
 
 TEST(ReadCard8, GivesEightFieldsWithoutTheirLeadingBlanks) {
-    CardReader reader("   12.            -3  x       4         5         6         7              end\n");
+    CardReader reader("   12.            -3  ab      4         5         6         7                 end\n");
     Card8 card;
     ASSERT_TRUE(ReadCard8(reader, card));
-    EXPECT_EQ(card.field(1), "12.  ") << "trailing blanks stay";
+    EXPECT_EQ(card.field(1), "12.    ") << "trailing blanks stay";
     EXPECT_EQ(Fixed<10>(card.field(1)).view(), "12.       ") << "and a member holds it left-justified";
-    EXPECT_EQ(card.field(2), "-3");
-    EXPECT_EQ(card.field(3), "x       4 ") << "fields are cut by column, whatever stands in them";
+    EXPECT_EQ(card.field(2), "-3") << "a field is its ten columns, not its words";
+    EXPECT_EQ(card.field(3), "ab      ");
+    EXPECT_EQ(card.field(4), "4         ");
+    EXPECT_EQ(card.field(8), "end");
 }
 
 TEST(ReadCard8, LosesWhatStandsBehindColumn80) {
