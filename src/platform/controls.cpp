@@ -51,6 +51,22 @@ bool Control::onCurrentPage() const {
     return here && (parent == nullptr || parent->onCurrentPage());
 }
 
+bool Control::reachable() const {
+    if (!bringsPage) {
+        return onCurrentPage();
+    }
+    const auto* standing = this;
+    while (standing->strip == nullptr && standing->parent != nullptr) {
+        standing = standing->parent;
+    }
+    if (standing->strip == nullptr) {
+        return true;
+    }
+    const auto& tabs = standing->strip->tabs();
+    const auto own = static_cast<std::size_t>(standing->page);
+    return tabs.current == standing->page || (own < tabs.tabs.size() && tabs.tabs[own].enabled);
+}
+
 bool Control::focusable() const {
     switch (kind) {
     case ControlKind::TextBox:
@@ -62,7 +78,7 @@ bool Control::focusable() const {
     case ControlKind::Grid:
     case ControlKind::TabStrip:
     case ControlKind::Spin:
-        return shown() && usable() && onCurrentPage();
+        return shown() && usable() && reachable();
     default:
         return false;
     }

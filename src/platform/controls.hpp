@@ -134,6 +134,8 @@ struct Control {
     Control* parent = nullptr; ///< the panel or frame that it stands on
     Control* strip = nullptr;  ///< the tab strip that shows it only on page `page`
     int page = 0;
+    /// The focus may come to it while another page is current: its window then makes its page the current one.
+    bool bringsPage = false;
     std::string fontName; ///< empty: the design font
     int fontSize = 0;     ///< 0: the design size
     std::string tag;
@@ -167,9 +169,11 @@ struct Control {
     /// Itself and all panels that it stands on are enabled.
     [[nodiscard]] bool usable() const;
     /// A person can put the focus on it: its kind takes it, it is shown, usable and, where it stands on a page, that page is
-    /// current.
+    /// current, or is brought to the front by it.
     [[nodiscard]] bool focusable() const;
     [[nodiscard]] bool onCurrentPage() const;
+    /// It stands on a current page, or on one that it brings to the front.
+    [[nodiscard]] bool reachable() const;
     /// "tbDgnHr", "Command1(4)".
     [[nodiscard]] std::string label() const;
 };

@@ -10,8 +10,13 @@ void ItemList::clear() {
     ++revision_;
 }
 
-void ItemList::addItem(std::string_view text) {
-    items_.push_back({std::string(text), false});
+void ItemList::addItem(std::string_view text, std::optional<int> before) {
+    const int place = before.value_or(count());
+    if (place < 0 || place > count()) {
+        throw std::out_of_range("Invalid property array index");
+    }
+    items_.insert(items_.begin() + place, {std::string(text), false});
+    index_ += index_ >= place ? 1 : 0;
     ++revision_;
 }
 

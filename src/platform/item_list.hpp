@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,8 @@ namespace kov {
 class ItemList {
 public:
     void clear();
-    void addItem(std::string_view text);
+    /// At the end, or ahead of the entry `before`; the current entry stays the same one.
+    void addItem(std::string_view text, std::optional<int> before = std::nullopt);
     /// An entry that doesn't exist is a std::out_of_range, here and below.
     void removeItem(int index);
     [[nodiscard]] int count() const { return static_cast<int>(items_.size()); }

@@ -1,6 +1,8 @@
 #include "app/composition/program.hpp"
 
 #include "core/dataset/progress.hpp"
+#include "fire/editor/fire_editor.hpp"
+#include "fire/editor/zone_editor.hpp"
 #include "shell/main/about.hpp"
 #include "shell/main/main_window.hpp"
 
@@ -15,6 +17,8 @@ Program::Program(Services services, const std::string& appPath) : desk_(services
 }
 
 void Program::registerWindows() {
+    registerEditor<FireEditor>("frmFires");
+    registerEditor<ZoneEditor>("ECZones");
     desk_.registerWindow("About", [this](Window& window) { return std::make_shared<About>(app_, window); });
     desk_.registerWindow("frmMain",
                          [this](Window& window) { return std::make_shared<MainWindow>(app_, window, commandLine_); });

@@ -23,6 +23,9 @@ public:
 
 private:
     void registerWindows();
+    template <typename Editor> void registerEditor(const std::string& name) {
+        desk_.registerWindow(name, [this](Window& window) { return std::make_shared<Editor>(app_, window); });
+    }
     [[nodiscard]] std::string rescueData();
 
     Desk desk_;

@@ -62,10 +62,15 @@ GridOverlay::GridOverlay(Application& app, EntryFlags& flags, Control& grid, Con
 }
 
 void GridOverlay::bindDummy(Control& dummy) {
+    dummy_ = &dummy;
     dummy.on.gotFocus = [this] {
         const bool already = std::exchange(wentRight_, false);
-        app_.desk.setFocus(grid_);
-        if (!already) {
+        if (!app_.desk.setFocus(grid_)) {
+            return;
+        }
+        if (already) {
+            arrived();
+        } else {
             app_.desk.sendKeys("{right}");
         }
     };
@@ -142,6 +147,13 @@ void GridOverlay::moveOn(int row, int col) {
     grid().setCol(col);
     grid().select({row, row, col, col});
     if (app_.desk.setFocus(grid_) && (grid().row() != app_.GridRow || grid().col() != app_.GridCol)) {
+        const auto changed = grid_.on.cellChange;
+        changed();
+    }
+}
+
+void GridOverlay::arrived() {
+    if (rules_.opensOnSelect) {
         onCellChange();
     }
 }
@@ -152,8 +164,8 @@ void GridOverlay::cellArrow(int code) {
         moveOn(row - 1, grid().col());
     } else if (code == keys::Down && row < grid().rows() - 1) {
         moveOn(row + 1, grid().col());
-    } else {
-        app_.desk.setFocus(grid_);
+    } else if (const int col = grid().col(); app_.desk.setFocus(grid_) && grid().col() != col) {
+        arrived();
     }
 }
 
@@ -185,27 +197,44 @@ void GridOverlay::commit() {
     guard_ = true;
     grid().setRow(app_.GridRow);
     grid().setCol(app_.GridCol);
-    if (std::exchange(flags_.FieldChanged, false)) {
+    const bool edited = std::exchange(flags_.FieldChanged, false);
+    if (edited) {
         flags_.FormChanged = true;
     }
+    const bool taking = edited || !rules_.editedOnly;
     flags_.FieldText = box_.text().text;
-    if (checkEntry(flags_.FieldText, ruleOf(app_.GridRow, app_.GridCol), app_.messages())) {
+    if (taking && checkEntry(flags_.FieldText, ruleOf(app_.GridRow, app_.GridCol), app_.messages())) {
         refuse();
         return;
     }
-    take(flags_.FieldText);
+    if (taking) {
+        take(flags_.FieldText);
+    }
     box_.visible = false;
     const bool still = row == app_.GridRow && col == app_.GridCol;
     grid().setRow(row < grid().rows() ? row : grid().rows() - 1);
     grid().setCol(col);
     guard_ = false;
-    wentRight_ = rules_.rightWhenStill && still;
-    if (wentRight_ && col < grid().cols() - 1) {
-        app_.desk.moveCell(grid_, row, col + 1);
+    if (taking && still && rules_.rightWhenStill) {
+        goRight(row, col);
     }
     if (rules_.closed) {
         rules_.closed();
     }
+}
+
+void GridOverlay::goRight(int row, int col) {
+    wentRight_ = dummy_ != nullptr && app_.desk.focus() == dummy_;
+    if (col >= grid().cols() - 1) {
+        return;
+    }
+    if (!rules_.opensOnSelect) {
+        app_.desk.moveCell(grid_, row, col + 1);
+        return;
+    }
+    // The next cell opens when the focus has come to the grid; on the way to another control nothing is to open.
+    grid().setCol(col + 1);
+    grid().select({row, row, col + 1, col + 1});
 }
 
 void GridOverlay::refuse() {
@@ -225,7 +254,7 @@ void GridOverlay::take(std::string text) {
     }
     grid().setText(app_.GridRow, app_.GridCol, text);
     if (rules_.blankRowBelow && app_.GridRow == grid().rows() - 1 && !text.empty()) {
-        grid().addItem("");
+        grid().addItem(rules_.rowBelow);
     }
 }
 

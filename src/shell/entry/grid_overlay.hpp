@@ -21,7 +21,9 @@ struct OverlayRules {
     bool opensOnSelect = true;   ///< a click, or another current cell, opens the overlay at once
     bool rightWhenStill = false; ///< leaving the overlay without having moved the grid moves it one column to the right
     bool growsByEnter = true;    ///< Enter in the last cell of the last row adds a row
-    bool blankRowBelow = true;   ///< a text typed into the last row adds an empty row
+    bool blankRowBelow = true;   ///< a text typed into the last row adds a row
+    bool editedOnly = false;     ///< an overlay that nobody typed into just closes: no check, nothing taken
+    std::string rowBelow;        ///< the row that is added then
     std::string newRow;          ///< the row that the key Insert adds, its cells parted by tabs
     /// Another rule than the column's for a cell.
     std::function<Rule(int row, int col)> ruleOf;
@@ -64,6 +66,8 @@ private:
     void moveOn(int row, int col);
     void commit();
     void refuse();
+    void goRight(int row, int col);
+    void arrived();
     void take(std::string text);
     [[nodiscard]] Rule ruleOf(int row, int col) const;
     [[nodiscard]] Grid& grid() const { return grid_.grid(); }
@@ -75,7 +79,8 @@ private:
     std::span<const Column> columns_;
     OverlayRules rules_;
     bool guard_ = false;
-    bool wentRight_ = false;
+    Control* dummy_ = nullptr;
+    bool wentRight_ = false; // on the way to the dummy: the move to the right is done
 };
 
 } // namespace kov
