@@ -110,14 +110,14 @@ void ReadWriteMany(benchmark::State& state) { run(state, deckOf(ManyLines), read
 void ReadWriteFew(benchmark::State& state) { run(state, deckOf(FewLines), readAndWrite); }
 void ReferenceLoop(benchmark::State& state) { run(state, deckOf(ManyLines), splitAndPrint); }
 
-/// Keeps the times beside printing them, for the ratios at the end.
+/// Keeps the processor times (the machine may be busy with something else) beside printing them, for the ratios at the end.
 class Keeper final : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override {
         ConsoleReporter::ReportRuns(runs);
         for (const auto& each : runs) {
             if (each.run_type == Run::RT_Aggregate && each.aggregate_name == "median") {
-                seconds[each.run_name.function_name] = each.GetAdjustedRealTime() / 1e3;
+                seconds[each.run_name.function_name] = each.GetAdjustedCPUTime() / 1e3;
             }
         }
     }
