@@ -3,7 +3,14 @@
 #include "core/dataset/progress.hpp"
 #include "fire/editor/fire_editor.hpp"
 #include "fire/editor/zone_editor.hpp"
+#include "rail/editor/initial_train_editor.hpp"
+#include "rail/editor/route_editor.hpp"
+#include "rail/editor/train_editor.hpp"
+#include "shell/general/general.hpp"
+#include "shell/general/options.hpp"
+#include "shell/general/sim_ctrl.hpp"
 #include "shell/main/about.hpp"
+#include "shell/main/counts.hpp"
 #include "shell/main/main_window.hpp"
 
 #include <exception>
@@ -19,9 +26,16 @@ Program::Program(Services services, const std::string& appPath) : desk_(services
 void Program::registerWindows() {
     registerEditor<FireEditor>("frmFires");
     registerEditor<ZoneEditor>("ECZones");
+    registerEditor<RouteEditor>("Route1");
+    registerEditor<TrainEditor>("Trains");
+    registerEditor<InitialTrainEditor>("TrnInit");
     desk_.registerWindow("About", [this](Window& window) { return std::make_shared<About>(app_, window); });
     desk_.registerWindow("frmMain",
                          [this](Window& window) { return std::make_shared<MainWindow>(app_, window, commandLine_); });
+    desk_.registerWindow("General", [this](Window& window) { return std::make_shared<General>(app_, window); });
+    desk_.registerWindow("Options", [this](Window& window) { return std::make_shared<Options>(app_, window); });
+    desk_.registerWindow("SimCtrl", [this](Window& window) { return std::make_shared<SimCtrl>(app_, window); });
+    desk_.registerWindow("frmCounts", [this](Window& window) { return std::make_shared<Counts>(app_, window); });
 }
 
 void Program::start(const std::string& commandLine) {

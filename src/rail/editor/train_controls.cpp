@@ -1,0 +1,172 @@
+#include "rail/editor/train_editor.hpp"
+#include "shell/entry/menus.hpp"
+#include "shell/entry/stacked_layout.hpp"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace kov {
+namespace {
+
+constexpr std::array<std::string_view, 7> Tabs{"&General",    "Heat &Load", "&Resistors", "&Motor",
+                                               "&Controller", "&Acc/Decel", "&FlyWheel"};
+constexpr int CaptionCharacters = 20;
+
+Control& add(Window& window, ControlKind kind, std::string_view name, std::string_view caption = {}) {
+    return window.add(kind, std::string(name), std::string(caption));
+}
+
+void addHead(Window& window, StackedLayout& stack) {
+    auto& label = add(window, ControlKind::Label, "lblTrainId", trainField("tbTrainId").caption);
+    label.alignRight = true;
+    const std::array title{RowItem{label, 900}, RowItem{add(window, ControlKind::TextBox, "tbTrainId"), 4200}};
+    stack.row(title);
+    auto& number = add(window, ControlKind::Label, "lblTrnNo", "Train");
+    number.alignRight = true;
+    const std::array commands{RowItem{number, 900},
+                              RowItem{add(window, ControlKind::TextBox, "tbTrnNo"), 700},
+                              RowItem{add(window, ControlKind::Spin, "Spin1"), 330},
+                              RowItem{add(window, ControlKind::Button, "cmdInsert", "Insert"), 1000},
+                              RowItem{add(window, ControlKind::Button, "cmdCut", "Cut"), 1000},
+                              RowItem{add(window, ControlKind::Button, "cmdCopy", "Copy"), 1000},
+                              RowItem{add(window, ControlKind::Button, "cmdPaste", "Paste"), 1000},
+                              RowItem{add(window, ControlKind::Button, "cmdDelete", "Delete"), 1000}};
+    stack.row(commands);
+}
+
+void addFields(LayoutPanel& panel, std::initializer_list<std::string_view> names) {
+    for (const auto& name : names) {
+        panel.field(trainField(name));
+    }
+}
+
+/// Boxes of one row behind one caption, as elements of their array.
+void addElements(Window& window, LayoutPanel& panel, std::string_view caption, std::string_view array,
+                 std::initializer_list<int> indices) {
+    const auto first = window.controls().size();
+    std::vector<Field> fields;
+    for (const int index : indices) {
+        fields.push_back(trainField(array, index));
+    }
+    panel.boxes(caption, fields);
+    const auto* next = indices.begin();
+    for (auto i = first; i < window.controls().size(); ++i) {
+        auto& control = *window.controls()[i];
+        control.index = next == indices.end() ? *indices.begin() : *next;
+        if (control.kind == ControlKind::TextBox) {
+            ++next;
+        }
+    }
+}
+
+void addElementRows(Window& window, LayoutPanel& panel, std::string_view array, int first, int last) {
+    for (int index = first; index <= last; ++index) {
+        addElements(window, panel, trainField(array, index).caption, array, {index});
+    }
+}
+
+void generalPage(Layout& layout) {
+    addFields(layout.panel("pnlPhysical", "Physical Data", CaptionCharacters),
+              {"tbNCars", "tbNPwrd", "tbNMtr", "tbTLength", "tbAFront", "tbPerim", "tbCwt"});
+    layout.nextColumn();
+    addFields(layout.panel("pnlDrag", "Drag Coefficients", CaptionCharacters), {"tbCSkin", "tbCTruck", "tbCFront"});
+    addFields(layout.panel("pnlRolling", "Rolling Resistance Coefficients", CaptionCharacters),
+              {"tbCRR1", "tbCRR2", "tbCRR3", "tbARRP"});
+}
+
+void heatPage(Layout& layout) {
+    addFields(layout.panel("pnlSensible", "Sensible Heat", CaptionCharacters), {"tbSensAuxE", "tbSensPac"});
+    addFields(layout.panel("pnlLatent", "Latent Heat", CaptionCharacters), {"tbLatentAuxE", "tbLatentPac"});
+    layout.nextColumn();
+    addFields(layout.panel("pnlAuxiliary", "Auxiliary Power Consumption", CaptionCharacters), {"tbPwrAuxE", "tbPwrPac"});
+}
+
+void resistorPage(Window& window, Layout& layout) {
+    auto& panel = layout.panel("pnlResistors", "Resistor Grids", CaptionCharacters);
+    panel.headings("lblAccDec", {"Accel", "Decel"});
+    for (int row = 0; row < 7; ++row) {
+        addElements(window, panel, trainField("tbAccRg", row).caption, "tbAccRg", {row, row + 7});
+    }
+}
+
+void motorPage(Window& window, Layout& layout) {
+    auto& motor = layout.panel("pnlMotor", "Motor", CaptionCharacters);
+    motor.field(trainField("tbMotorID"));
+    motor.headings("lblSpecs", {"Manuf. Data", "Actual"});
+    for (const int index : {0, 2, 4}) {
+        addElements(window, motor, trainField("tbMtrSpec", index).caption, "tbMtrSpec", {index, index + 1});
+    }
+    addElementRows(window, motor, "tbMtrSpec", 6, 6);
+    layout.nextBand();
+    auto& curve = layout.panel("pnlCurve", "Performance Curve", CaptionCharacters);
+    curve.headings("lblCurve", {"Speed", "Tractive Effort", "Motor Current"});
+    for (int point = 0; point < 4; ++point) {
+        addElements(window, curve, "", "tbMtrDat", {4 * point + 1, 4 * point + 2, 4 * point + 3});
+    }
+}
+
+/// The speeds of the curve, repeated as captions of the line currents.
+void addLineCurrents(Window& window, LayoutPanel& panel) {
+    panel.note("lblLineCurrent", "Speed vs Line Current");
+    for (int point = 0; point <= 4; ++point) {
+        const auto first = window.controls().size();
+        addElements(window, panel, "0", "tbMtrDat", {4 * point});
+        auto& speed = *window.controls()[first];
+        speed.name = "lblCrvSpeed";
+        speed.index = point;
+    }
+}
+
+void controllerPage(Window& window, Layout& layout) {
+    auto& kind = layout.panel("fraCtrlOpt", "Controller", CaptionCharacters);
+    for (const int option : {1, 2}) {
+        auto& button = kind.note("rbCtrlOpt", option == 1 ? "Cam" : "Chopper");
+        button.kind = ControlKind::OptionButton;
+        button.index = option;
+    }
+    layout.nextColumn();
+    auto& repeated = layout.panel("pnlMotorID2", "Motor", CaptionCharacters).field(
+        Field{"tbMotorID2", "Motor ID", "", text(), "", nullptr, ""});
+    repeated.text().locked = true;
+    repeated.tabStop = false;
+    layout.nextBand();
+    addElementRows(window, layout.panel("pnlCam", "Cam", 40), "tbController", 0, 4);
+    layout.nextColumn();
+    auto& chopper = layout.panel("pnlChopper", "Chopper", CaptionCharacters);
+    chopper.field(Field{"cbFlyWheel", "Onboard Flywheel", "", checkBox(), "", nullptr, ""});
+    addElementRows(window, chopper, "tbChopper", 1, 5);
+    addLineCurrents(window, chopper);
+}
+
+} // namespace
+
+void buildTrainControls(Window& window) {
+    addEditMenu(window);
+    addHelpMenu(window);
+    StackedLayout stack(window);
+    addHead(window, stack);
+    auto& strip = add(window, ControlKind::TabStrip, "SSTab1");
+    for (const auto& caption : Tabs) {
+        strip.tabs().tabs.push_back({std::string(caption), true});
+    }
+    const std::vector<StackedLayout::Build> pages{
+        generalPage,
+        heatPage,
+        [&](Layout& layout) { resistorPage(window, layout); },
+        [&](Layout& layout) { motorPage(window, layout); },
+        [&](Layout& layout) { controllerPage(window, layout); },
+        [&](Layout& layout) { addElementRows(window, layout.panel("SSPanel10", "Rates", 40), "tbRate", 0, 4); },
+        [&](Layout& layout) {
+            auto& panel = layout.panel("SSPanel11", "Flywheels", 40);
+            addElementRows(window, panel, "tbFlyWheel", 0, 11);
+        },
+    };
+    stack.pages(strip, pages);
+    stack.button("cmdOkay", "OK");
+    stack.button("cmdCancel", "Cancel");
+    stack.button("cmdHelp", "Help");
+    stack.finish();
+}
+
+} // namespace kov
