@@ -52,7 +52,7 @@ bool Control::onCurrentPage() const {
 }
 
 bool Control::reachable() const {
-    if (!bringsPage) {
+    if (!turnsPage) {
         return onCurrentPage();
     }
     const auto* standing = this;

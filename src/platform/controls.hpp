@@ -135,7 +135,7 @@ struct Control {
     Control* strip = nullptr;  ///< the tab strip that shows it only on page `page`
     int page = 0;
     /// The focus may come to it while another page is current: its window then makes its page the current one.
-    bool bringsPage = false;
+    bool turnsPage = false;
     std::string fontName; ///< empty: the design font
     int fontSize = 0;     ///< 0: the design size
     std::string tag;

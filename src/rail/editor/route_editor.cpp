@@ -44,7 +44,7 @@ void RouteEditor::bindFields() {
         if (entry.brings < 0) {
             continue;
         }
-        control.bringsPage = true;
+        control.turnsPage = true;
         control.on.gotFocus = [this, &control, &entry] {
             tabs().current = entry.brings;
             enterField(app_, control, entry.field.hint);
@@ -69,7 +69,7 @@ void RouteEditor::bindGrid(int index) {
     auto& overlay = overlays_.at(static_cast<std::size_t>(index));
     overlay = std::make_unique<GridOverlay>(app_, entry_.flags, control, window_.control("gtext", index), table.columns, rules);
     overlay->bindDummy(window_.control("Dummy1", index));
-    control.bringsPage = true;
+    control.turnsPage = true;
     control.on.gotFocus = [this, index] { onGridFocus(index); };
 }
 

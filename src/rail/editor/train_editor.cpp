@@ -39,10 +39,10 @@ void TrainEditor::bindFields() {
             accepted = [this] { show("tbMotorID2", box("tbMotorID")); };
         }
         bindField(app_, entry_.flags, control, entry.field.hint, entry.field.rule, std::move(accepted));
-        if (!entry.bringsPage) {
+        if (!entry.turnsPage) {
             continue;
         }
-        control.bringsPage = true;
+        control.turnsPage = true;
         control.on.gotFocus = [this, &strip, &control, &entry] {
             strip.tabs().current = entry.page;
             enterField(app_, control, entry.field.hint);

@@ -17,7 +17,7 @@ struct TrainField {
     Field field;
     int index = -1;
     int page = 0; ///< -1: above the tabs
-    bool bringsPage = false;
+    bool turnsPage = false;
 };
 
 /// All entry boxes of the train window, Form 9.

@@ -146,7 +146,8 @@ void GridOverlay::moveOn(int row, int col) {
     grid().setRow(row);
     grid().setCol(col);
     grid().select({row, row, col, col});
-    if (app_.desk.setFocus(grid_) && (grid().row() != app_.GridRow || grid().col() != app_.GridCol)) {
+    const bool another = grid().row() != app_.GridRow || grid().col() != app_.GridCol;
+    if (app_.desk.setFocus(grid_) && another && grid_.on.cellChange) {
         const auto changed = grid_.on.cellChange;
         changed();
     }
@@ -254,7 +255,7 @@ void GridOverlay::take(std::string text) {
     }
     grid().setText(app_.GridRow, app_.GridCol, text);
     if (rules_.blankRowBelow && app_.GridRow == grid().rows() - 1 && !text.empty()) {
-        grid().addItem(rules_.rowBelow);
+        grid().addItem(rules_.blankRow);
     }
 }
 

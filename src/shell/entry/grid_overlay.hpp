@@ -21,9 +21,9 @@ struct OverlayRules {
     bool opensOnSelect = true;   ///< a click, or another current cell, opens the overlay at once
     bool rightWhenStill = false; ///< leaving the overlay without having moved the grid moves it one column to the right
     bool growsByEnter = true;    ///< Enter in the last cell of the last row adds a row
-    bool blankRowBelow = true;   ///< a text typed into the last row adds a row
+    bool blankRowBelow = true;   ///< a text typed into the last row adds an empty row
     bool editedOnly = false;     ///< an overlay that nobody typed into just closes: no check, nothing taken
-    std::string rowBelow;        ///< the row that is added then
+    std::string blankRow;        ///< what that empty row holds
     std::string newRow;          ///< the row that the key Insert adds, its cells parted by tabs
     /// Another rule than the column's for a cell.
     std::function<Rule(int row, int col)> ruleOf;

@@ -9,10 +9,10 @@ namespace kov {
 namespace {
 
 // All in twips, for a font of 8 to 9 points.
-constexpr double Character = 95, TextLine = 255;
-constexpr double Gap = 90, Margin = 90;
-constexpr double PanelSide = 150, PanelTitle = 330, PanelBottom = 90;
-constexpr double BoxWidth = 1050, BoxHeight = 315, BoxPadding = 120, DropButton = 240, Tick = 330;
+constexpr double Character = 92, TextLine = 255;
+constexpr double Gap = 90, Margin = 60;
+constexpr double PanelSide = 105, PanelTitle = 330, PanelBottom = 90;
+constexpr double BoxWidth = 1050, BoxHeight = 315, BoxPadding = 90, DropButton = 210, Tick = 330;
 constexpr double ButtonWidth = 1200, ButtonHeight = 405, ButtonPadding = 300;
 constexpr double CellHeight = 300, CellWidth = 1200, ScrollBar = 330, Pixel = 15;
 constexpr int HeadingCharacters = 11;
