@@ -62,7 +62,7 @@ bool Control::focusable() const {
     case ControlKind::Grid:
     case ControlKind::TabStrip:
     case ControlKind::Spin:
-        return shown() && usable() && onCurrentPage();
+        return shown() && usable() && (turnsPage || onCurrentPage());
     default:
         return false;
     }

@@ -134,6 +134,9 @@ struct Control {
     Control* parent = nullptr; ///< the panel or frame that it stands on
     Control* strip = nullptr;  ///< the tab strip that shows it only on page `page`
     int page = 0;
+    bool turnsPage = false; ///< can have the focus while another page is current; its window then turns to its page
+    /// Background as red + 256 green + 65536 blue; below 0: the design's.
+    std::int32_t backColor = -1;
     std::string fontName; ///< empty: the design font
     int fontSize = 0;     ///< 0: the design size
     std::string tag;
@@ -167,7 +170,7 @@ struct Control {
     /// Itself and all panels that it stands on are enabled.
     [[nodiscard]] bool usable() const;
     /// A person can put the focus on it: its kind takes it, it is shown, usable and, where it stands on a page, that page is
-    /// current.
+    /// current or it turns to it.
     [[nodiscard]] bool focusable() const;
     [[nodiscard]] bool onCurrentPage() const;
     /// "tbDgnHr", "Command1(4)".

@@ -1,6 +1,8 @@
 #include "app/composition/program.hpp"
 
 #include "core/dataset/progress.hpp"
+#include "line/editor/line_sections.hpp"
+#include "line/editor/line_segments.hpp"
 #include "shell/main/about.hpp"
 #include "shell/main/main_window.hpp"
 
@@ -16,6 +18,8 @@ Program::Program(Services services, const std::string& appPath) : desk_(services
 
 void Program::registerWindows() {
     desk_.registerWindow("About", [this](Window& window) { return std::make_shared<About>(app_, window); });
+    desk_.registerWindow("frmLSect", [this](Window& window) { return std::make_shared<LineSections>(app_, window); });
+    desk_.registerWindow("lseg", [this](Window& window) { return std::make_shared<LineSegments>(app_, window); });
     desk_.registerWindow("frmMain",
                          [this](Window& window) { return std::make_shared<MainWindow>(app_, window, commandLine_); });
 }

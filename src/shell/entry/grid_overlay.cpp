@@ -99,6 +99,9 @@ void GridOverlay::onCellChange() {
     if (rules_.opensOnSelect) {
         open();
     }
+    if (rules_.moved) {
+        rules_.moved();
+    }
 }
 
 void GridOverlay::onGridKeyDown(int code) {
@@ -179,7 +182,17 @@ void GridOverlay::cellEnter(int& character) {
 
 // Leaving the overlay.
 
+bool GridOverlay::cellIsGone() const { return app_.GridRow >= grid().rows() || app_.GridCol >= grid().cols(); }
+
 void GridOverlay::commit() {
+    if (cellIsGone()) { // a menu command took the row away under the open box
+        flags_.FieldChanged = false;
+        box_.visible = false;
+        if (rules_.closed) {
+            rules_.closed();
+        }
+        return;
+    }
     const int row = grid().row();
     const int col = grid().col();
     guard_ = true;
@@ -225,7 +238,7 @@ void GridOverlay::take(std::string text) {
     }
     grid().setText(app_.GridRow, app_.GridCol, text);
     if (rules_.blankRowBelow && app_.GridRow == grid().rows() - 1 && !text.empty()) {
-        grid().addItem("");
+        grid().addItem(rules_.blankRow);
     }
 }
 

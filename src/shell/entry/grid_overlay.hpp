@@ -22,6 +22,7 @@ struct OverlayRules {
     bool rightWhenStill = false; ///< leaving the overlay without having moved the grid moves it one column to the right
     bool growsByEnter = true;    ///< Enter in the last cell of the last row adds a row
     bool blankRowBelow = true;   ///< a text typed into the last row adds an empty row
+    std::string blankRow;        ///< what that empty row holds
     std::string newRow;          ///< the row that the key Insert adds, its cells parted by tabs
     /// Another rule than the column's for a cell.
     std::function<Rule(int row, int col)> ruleOf;
@@ -30,6 +31,8 @@ struct OverlayRules {
     /// The overlay was left, the cell taken or not changed; the grid is back on its cell.
     std::function<void()> closed;
     std::function<void(int row, int col)> refused;
+    /// Another cell is current, by the person's move.
+    std::function<void()> moved;
     std::function<void()> insertRow; ///< instead of adding `newRow`
     std::function<void()> deleteRow; ///< instead of removing the current row
 };
@@ -63,6 +66,7 @@ private:
     void cellEnter(int& character);
     void moveOn(int row, int col);
     void commit();
+    [[nodiscard]] bool cellIsGone() const;
     void refuse();
     void take(std::string text);
     [[nodiscard]] Rule ruleOf(int row, int col) const;
