@@ -9,6 +9,7 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "kovtool " KOV_VERSION);
     app.require_subcommand(1);
     kov::tool::addRewriteCommand(app, exitCode);
+    kov::tool::addDriveCommand(app, exitCode);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -9,13 +9,15 @@ namespace kov::decks {
 void DeckMaker::route(int number) {
     constexpr auto form = "Form 8";
     const int groups = dice_.between(0, 3);
-    const int tracks = dice_.between(1, 4);
+    // Without train movement no track cards follow, and the count that the program prints is that of the tracks it has.
+    const bool noTracks = plan_.TPOpt == 3;
+    const int tracks = noTracks && plan_.hand == Hand::Tidy ? 0 : dice_.between(1, 4);
     add(card(form).fixed("Route " + std::to_string(number) + " " + words(50), 68).line());
     add(card(form).real().integer(groups + 1).integer(tracks).real().integer(1).real().integer(dice_.between(0, 1)).line());
     for (int i = 0; i < groups; ++i) {
         add(card(form).integer(dice_.between(1, 20)).integer(1).integer(dice_.between(20, 900)).line());
     }
-    for (int i = 0; i < tracks && plan_.TPOpt != 3; ++i) {
+    for (int i = 0; i < tracks && !noTracks; ++i) {
         add(card(form).real().real().real(-4000, 4000).real().real().integer(1).integer(dice_.between(0, 1)).line());
     }
     routeTimetable();

@@ -39,7 +39,7 @@ TEST(CardReal, PrintsAWholeNumberWithAPoint) {
 }
 
 TEST(ReadCard8, GivesEightFieldsWithoutTheirLeadingBlanks) {
-    CardReader reader("   12.            -3  ab      4         5         6         7                 end\n");
+    CardReader reader("   12.            -3  ab      4         5         6         7                end\n");
     Card8 card;
     ASSERT_TRUE(ReadCard8(reader, card));
     EXPECT_EQ(card.field(1), "12.    ") << "trailing blanks stay";

@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace kov {
 namespace {
@@ -14,6 +17,7 @@ namespace {
 using decks::Hand;
 using decks::makeDeck;
 using decks::randomPlan;
+using test::firstDifference;
 using test::Reading;
 using test::rewritten;
 using test::written;
@@ -25,14 +29,14 @@ TEST(ATidyDeck, ComesBackByteForByte) {
         const std::string text = makeDeck(randomPlan(seed, Hand::Tidy)).text();
         Reading reading(text);
         ASSERT_TRUE(reading.done) << "seed " << seed << ": " << reading.boxes.shown.back().prompt;
-        ASSERT_EQ(written(reading.data), text) << "seed " << seed;
+        ASSERT_EQ(firstDifference(text, written(reading.data)), "") << "seed " << seed;
     }
 }
 
 TEST(ATidyDeckWithCrLf, ComesBackByteForByte) {
     for (std::uint32_t seed = 1; seed <= 20; ++seed) {
         const std::string text = makeDeck(randomPlan(seed, Hand::Tidy)).text("\r\n");
-        ASSERT_EQ(rewritten(text), text) << "seed " << seed;
+        ASSERT_EQ(firstDifference(text, rewritten(text)), "") << "seed " << seed;
     }
 }
 
@@ -63,7 +67,7 @@ TEST(AHandMadeDeck, IsAFixedPointAfterOneRewrite) {
         const std::string once = written(reading.data);
         Reading again(once);
         ASSERT_TRUE(again.done) << "seed " << seed << ": " << again.boxes.shown.back().prompt << "\n" << once;
-        ASSERT_EQ(written(again.data), once) << "seed " << seed;
+        ASSERT_EQ(firstDifference(once, written(again.data)), "") << "seed " << seed;
     }
 }
 
@@ -128,7 +132,7 @@ TEST_P(Sample, IsTidy) {
     ASSERT_FALSE(text.empty());
     Reading reading(text);
     ASSERT_TRUE(reading.done) << reading.boxes.shown.back().prompt;
-    EXPECT_EQ(written(reading.data), text);
+    EXPECT_EQ(firstDifference(text, written(reading.data)), "");
 }
 
 TEST_P(Sample, ReadsAfterEveryTruncationWithoutACrash) {
@@ -148,7 +152,12 @@ TEST_P(Sample, ReadsAfterEveryTruncationWithoutACrash) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, Sample, testing::Values("two-station-line.kov", "ventilation-only.kov"),
-                         [](const auto& tested) { return std::string(tested.param).substr(0, 3); });
+                         [](const auto& tested) {
+                             std::string name = tested.param;
+                             std::replace_if(
+                                 name.begin(), name.end(), [](char c) { return c == '-' || c == '.'; }, '_');
+                             return name;
+                         });
 
 } // namespace
 } // namespace kov

@@ -4,6 +4,7 @@
 #include "core/dataset/dataset.hpp"
 #include "core/dataset/progress.hpp"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -78,6 +79,20 @@ inline std::vector<std::string> linesOf(std::string_view text) {
         start = end + 1;
     }
     return lines;
+}
+
+/// Where two texts part for the first time, for a test to show; empty when they are equal.
+inline std::string firstDifference(const std::string& expected, const std::string& found) {
+    const auto want = linesOf(expected);
+    const auto got = linesOf(found);
+    for (std::size_t i = 0; i < std::max(want.size(), got.size()); ++i) {
+        const std::string a = i < want.size() ? want[i] : "(no line)";
+        const std::string b = i < got.size() ? got[i] : "(no line)";
+        if (a != b) {
+            return "line " + std::to_string(i + 1) + "\n[" + a + "]\n[" + b + "]";
+        }
+    }
+    return expected == found ? "" : "the line end of the last line";
 }
 
 inline std::string joined(const std::vector<std::string>& lines) {
