@@ -136,6 +136,8 @@ struct Control {
     int page = 0;
     /// The focus may come to it while another page is current: its window then makes its page the current one.
     bool turnsPage = false;
+    /// Background as red + 256 green + 65536 blue; below 0: the design's.
+    std::int32_t backColor = -1;
     std::string fontName; ///< empty: the design font
     int fontSize = 0;     ///< 0: the design size
     std::string tag;

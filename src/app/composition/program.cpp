@@ -6,6 +6,8 @@
 #include "rail/editor/initial_train_editor.hpp"
 #include "rail/editor/route_editor.hpp"
 #include "rail/editor/train_editor.hpp"
+#include "line/editor/line_sections.hpp"
+#include "line/editor/line_segments.hpp"
 #include "shell/general/general.hpp"
 #include "shell/general/options.hpp"
 #include "shell/general/sim_ctrl.hpp"
@@ -30,6 +32,8 @@ void Program::registerWindows() {
     registerEditor<TrainEditor>("Trains");
     registerEditor<InitialTrainEditor>("TrnInit");
     desk_.registerWindow("About", [this](Window& window) { return std::make_shared<About>(app_, window); });
+    desk_.registerWindow("frmLSect", [this](Window& window) { return std::make_shared<LineSections>(app_, window); });
+    desk_.registerWindow("lseg", [this](Window& window) { return std::make_shared<LineSegments>(app_, window); });
     desk_.registerWindow("frmMain",
                          [this](Window& window) { return std::make_shared<MainWindow>(app_, window, commandLine_); });
     desk_.registerWindow("General", [this](Window& window) { return std::make_shared<General>(app_, window); });

@@ -64,7 +64,7 @@ void InitialTrainEditor::bindGrid() {
     OverlayRules rules;
     rules.rightWhenStill = true;
     rules.editedOnly = true;
-    rules.rowBelow = " ";
+    rules.blankRow = " ";
     rules.newRow = NewRow;
     rules.deleteRow = [this] { onDeleteRow(); };
     overlay_ = std::make_unique<GridOverlay>(app_, entry_.flags, control, box, Columns, rules);

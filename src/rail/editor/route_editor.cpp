@@ -62,7 +62,7 @@ void RouteEditor::bindGrid(int index) {
     rules.opensOnSelect = false;
     rules.rightWhenStill = true;
     rules.editedOnly = true;
-    rules.rowBelow = " ";
+    rules.blankRow = " ";
     rules.newRow = " ";
     rules.deleteRow = [this, index] { onDeleteRow(index); };
     rules.closed = [this] { redraw(); };

@@ -104,6 +104,9 @@ void GridOverlay::onCellChange() {
     if (rules_.opensOnSelect) {
         open();
     }
+    if (rules_.moved) {
+        rules_.moved();
+    }
 }
 
 void GridOverlay::onGridKeyDown(int code) {
@@ -192,7 +195,17 @@ void GridOverlay::cellEnter(int& character) {
 
 // Leaving the overlay.
 
+bool GridOverlay::cellIsGone() const { return app_.GridRow >= grid().rows() || app_.GridCol >= grid().cols(); }
+
 void GridOverlay::commit() {
+    if (cellIsGone()) { // a menu command took the row away under the open box
+        flags_.FieldChanged = false;
+        box_.visible = false;
+        if (rules_.closed) {
+            rules_.closed();
+        }
+        return;
+    }
     const int row = grid().row();
     const int col = grid().col();
     guard_ = true;

@@ -32,6 +32,8 @@ struct OverlayRules {
     /// The overlay was left, the cell taken or not changed; the grid is back on its cell.
     std::function<void()> closed;
     std::function<void(int row, int col)> refused;
+    /// Another cell is current, by the person's move.
+    std::function<void()> moved;
     std::function<void()> insertRow; ///< instead of adding `newRow`
     std::function<void()> deleteRow; ///< instead of removing the current row
 };
@@ -65,6 +67,7 @@ private:
     void cellEnter(int& character);
     void moveOn(int row, int col);
     void commit();
+    [[nodiscard]] bool cellIsGone() const;
     void refuse();
     void goRight(int row, int col);
     void arrived();
