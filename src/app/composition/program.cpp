@@ -3,6 +3,12 @@
 #include "core/dataset/progress.hpp"
 #include "shell/main/about.hpp"
 #include "shell/main/main_window.hpp"
+#include "vent/editor/fan_table.hpp"
+#include "vent/editor/fan_types.hpp"
+#include "vent/editor/impulse_fans.hpp"
+#include "vent/editor/node_details.hpp"
+#include "vent/editor/vent_sections.hpp"
+#include "vent/editor/vent_shafts.hpp"
 
 #include <exception>
 
@@ -16,6 +22,12 @@ Program::Program(Services services, const std::string& appPath) : desk_(services
 
 void Program::registerWindows() {
     desk_.registerWindow("About", [this](Window& window) { return std::make_shared<About>(app_, window); });
+    desk_.registerWindow("frmVSect", [this](Window& window) { return std::make_shared<VentSections>(app_, window); });
+    desk_.registerWindow("vshaft", [this](Window& window) { return std::make_shared<VentShafts>(app_, window); });
+    desk_.registerWindow("NodeDtl", [this](Window& window) { return std::make_shared<NodeDetails>(app_, window); });
+    desk_.registerWindow("frmXFan", [this](Window& window) { return std::make_shared<FanTypes>(app_, window); });
+    desk_.registerWindow("frmIFan", [this](Window& window) { return std::make_shared<ImpulseFans>(app_, window); });
+    desk_.registerWindow("FanTable", [this](Window& window) { return std::make_shared<FanTable>(app_, window); });
     desk_.registerWindow("frmMain",
                          [this](Window& window) { return std::make_shared<MainWindow>(app_, window, commandLine_); });
 }

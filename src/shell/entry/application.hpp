@@ -4,6 +4,7 @@
 #include "platform/desk.hpp"
 #include "shell/entry/current_file.hpp"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -15,8 +16,10 @@ struct Application {
     explicit Application(Desk& theDesk) : desk(theDesk) {}
 
     Desk& desk;
-    std::unique_ptr<KOVDataSet> DataSet;
+    /// Shared, since a window goes on holding what it shows when another data set takes its place.
+    std::shared_ptr<KOVDataSet> DataSet;
     CurrentFile current;
+    std::int16_t CurShaft = 0; ///< which shaft the window `vshaft` is to show first, from 1; 0: the first
     bool FileDirty = false; ///< the file has changes that are not saved
     std::string AppPath;    ///< the program's folder, without a separator at its end
     int GridRow = 0;        ///< row of the cell under the open overlay, from 0

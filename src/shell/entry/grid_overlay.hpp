@@ -16,12 +16,17 @@ namespace kov {
 /// Lays a box over the current cell of a grid, with the cell's text selected, and records the cell in `GridRow`, `GridCol`.
 void OpenCell(Application& app, const Control& grid, Control& box);
 
+/// Lays any control over the current cell of a grid, as `OpenCell` does, and makes it visible. A drop-down list keeps its
+/// height.
+void LayOverCell(Application& app, const Control& grid, Control& control);
+
 /// How a window's grid differs from the common way.
 struct OverlayRules {
     bool opensOnSelect = true;   ///< a click, or another current cell, opens the overlay at once
     bool rightWhenStill = false; ///< leaving the overlay without having moved the grid moves it one column to the right
     bool growsByEnter = true;    ///< Enter in the last cell of the last row adds a row
     bool blankRowBelow = true;   ///< a text typed into the last row adds an empty row
+    std::string blankRow;        ///< what that empty row holds
     std::string newRow;          ///< the row that the key Insert adds, its cells parted by tabs
     /// Another rule than the column's for a cell.
     std::function<Rule(int row, int col)> ruleOf;
@@ -30,6 +35,10 @@ struct OverlayRules {
     /// The overlay was left, the cell taken or not changed; the grid is back on its cell.
     std::function<void()> closed;
     std::function<void(int row, int col)> refused;
+    /// Another cell is current, by the person's move.
+    std::function<void()> moved;
+    /// Opens something else over the current cell, or nothing; true when the text box stays closed.
+    std::function<bool(int row, int col)> openInstead;
     std::function<void()> insertRow; ///< instead of adding `newRow`
     std::function<void()> deleteRow; ///< instead of removing the current row
 };
@@ -63,6 +72,7 @@ private:
     void cellEnter(int& character);
     void moveOn(int row, int col);
     void commit();
+    [[nodiscard]] bool cellIsGone() const;
     void refuse();
     void take(std::string text);
     [[nodiscard]] Rule ruleOf(int row, int col) const;
