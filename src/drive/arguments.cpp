@@ -39,14 +39,14 @@ std::string Target::text() const {
     return window + (control.empty() ? "" : "." + control) + (index ? "(" + std::to_string(*index) + ")" : "");
 }
 
-const Word& Arguments::next(std::string_view what) const {
+const Word& Arguments::next(const std::string& what) const {
     if (words_.empty()) {
         expected(what, "the line's end");
     }
     return words_.front();
 }
 
-Word Arguments::take(std::string_view what) {
+Word Arguments::take(const std::string& what) {
     const auto& word = next(what);
     words_ = words_.subspan(1);
     return word;
@@ -65,7 +65,7 @@ bool Arguments::takeIf(std::string_view word) {
 }
 
 std::string Arguments::name(std::string_view what) {
-    auto word = take(what);
+    auto word = take(std::string(what));
     if (word.quoted) {
         expected(what, shown(word));
     }
@@ -73,18 +73,20 @@ std::string Arguments::name(std::string_view what) {
 }
 
 std::string Arguments::text(std::string_view what) {
-    auto word = take(what);
+    const auto kind = std::string(what) + " in double quotes";
+    auto word = take(kind);
     if (!word.quoted) {
-        expected(std::string(what) + " in double quotes", shown(word));
+        expected(kind, shown(word));
     }
     return std::move(word.text);
 }
 
 int Arguments::number(std::string_view what) {
-    const auto word = take(what);
+    const auto kind = "a whole number (" + std::string(what) + ")";
+    const auto word = take(kind);
     const auto value = word.quoted ? std::nullopt : numberOf<int>(word.text);
     if (!value) {
-        expected("a whole number (" + std::string(what) + ")", shown(word));
+        expected(kind, shown(word));
     }
     return *value;
 }
@@ -106,11 +108,12 @@ int Arguments::ordinal(std::string_view what) {
 }
 
 double Arguments::length(std::string_view what) {
-    const auto word = take(what);
+    const auto kind = "a number (" + std::string(what) + ")";
+    const auto word = take(kind);
     const auto value = word.quoted ? std::nullopt : numberOf<double>(word.text);
     constexpr double Most = 1e9; // also keeps out what is no number
     if (!value || !(*value > -Most && *value < Most)) {
-        expected("a number (" + std::string(what) + ")", shown(word));
+        expected(kind, shown(word));
     }
     return *value;
 }

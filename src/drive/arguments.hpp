@@ -49,8 +49,8 @@ public:
     void end() const;
 
 private:
-    [[nodiscard]] const Word& next(std::string_view what) const;
-    Word take(std::string_view what);
+    [[nodiscard]] const Word& next(const std::string& what) const;
+    Word take(const std::string& what);
 
     std::span<const Word> words_;
 };

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <locale>
 #include <sstream>
 #include <utility>
 

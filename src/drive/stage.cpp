@@ -44,7 +44,7 @@ void Stage::start(const std::string& commandLine) {
         throw CannotRun("the program is running already");
     }
     if (failure) {
-        findings_.push_back("expected no failure, the program ended: " + *std::exchange(failure, std::nullopt));
+        findings_.push_back("expected no failure, the program ended: " + utf8OfText(*std::exchange(failure, std::nullopt)));
     }
     failureNoted_ = false;
     program_.reset();
@@ -113,8 +113,8 @@ void Stage::expectYesNo(const std::string& about, bool expected, bool was) {
 }
 
 std::vector<std::string> Stage::takeFindings() {
-    for (auto& complaint : around.messages.takeComplaints()) {
-        findings_.push_back(utf8OfText(complaint));
+    for (const auto& complaint : around.messages.takeComplaints()) {
+        findings_.push_back(complaint.reason + " " + describe(complaint.box));
     }
     for (auto& complaint : around.dialogs.takeComplaints()) {
         findings_.push_back(std::move(complaint));

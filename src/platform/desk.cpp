@@ -40,11 +40,15 @@ void Desk::act(const std::function<void()>& action) {
     leaveAct();
 }
 
-void Desk::leaveAct() {
+void Desk::release() {
     --depth_;
     if (depth_ == 0) {
         graveyard_.clear();
     }
+}
+
+void Desk::leaveAct() {
+    release();
     if (onChanged) {
         onChanged();
     }
@@ -107,10 +111,13 @@ bool Desk::reachable(const Window& window) const {
 }
 
 Window* Desk::show(const std::string& name, bool modal) {
+    if (ended_) {
+        return nullptr;
+    }
+    const Keep keep(*this);
     if (auto* window = find(name)) {
-        bringToFront(*window);
         focusFirst(*window);
-        return window;
+        return find(name);
     }
     const auto factory = factories_.find(name);
     if (factory == factories_.end()) {
@@ -152,10 +159,14 @@ void Desk::focusFirst(Window& window) {
     if (first == nullptr || !first->focusable()) {
         first = window.nextInTabOrder(nullptr, false);
     }
-    if (first != nullptr) {
+    if (first == nullptr) {
+        if (focus_ == nullptr || leave(*focus_->window)) {
+            activate(window);
+        }
+    } else if (focus_ == first) {
+        activate(window);
+    } else {
         setFocus(*first);
-    } else if (focus_ != nullptr && focus_->window != &window) {
-        leave(*focus_->window);
     }
 }
 
@@ -176,6 +187,7 @@ bool Desk::leave(Window& window) {
     if (focus_ == nullptr || focus_->window != &window) {
         return true;
     }
+    const Keep keep(*this);
     auto* from = focus_;
     const bool heard = focusHeard_;
     focus_ = nullptr;
@@ -192,21 +204,36 @@ bool Desk::unload(Window& window) {
     if (place(window) == open_.end()) {
         return true;
     }
+    const Keep keep(*this);
     bool cancel = false;
     if (window.on.queryUnload) {
         const auto query = window.on.queryUnload;
         query(cancel);
     }
-    if (cancel || place(window) == open_.end()) {
-        return !cancel;
+    if (place(window) == open_.end()) {
+        return true;
+    }
+    if (cancel) {
+        if (focus_ == nullptr) {
+            focusFirst(window); // it had been left already
+        }
+        return false;
     }
     if (window.on.unload) {
         const auto unloaded = window.on.unload;
         unloaded();
     }
+    takeAway(window);
+    if (!ended_) {
+        focusFront();
+    }
+    return true;
+}
+
+void Desk::takeAway(Window& window) {
     const auto self = place(window);
     if (self == open_.end()) {
-        return true;
+        return;
     }
     if (focus_ != nullptr && focus_->window == &window) {
         focus_ = nullptr;
@@ -217,10 +244,6 @@ bool Desk::unload(Window& window) {
     }
     graveyard_.push_back(std::move(*self));
     open_.erase(self);
-    if (!ended_) {
-        focusFront();
-    }
-    return true;
 }
 
 // The focus.
@@ -232,6 +255,7 @@ bool Desk::setFocus(Control& control) {
     if (!control.focusable() || place(*control.window) == open_.end()) {
         return false;
     }
+    const Keep keep(*this);
     auto* from = focus_;
     const bool heard = focusHeard_;
     focus_ = &control;
@@ -241,12 +265,12 @@ bool Desk::setFocus(Control& control) {
         const auto lost = from->on.lostFocus;
         lost();
     }
-    if (move != focusMoves_) {
-        return focus_ == &control;
+    if (move != focusMoves_ || focus_ != &control) {
+        return focus_ == &control; // it was given elsewhere, or the window went
     }
     control.window->activeControl = &control;
     activate(*control.window);
-    if (move != focusMoves_) {
+    if (move != focusMoves_ || focus_ != &control) {
         return focus_ == &control;
     }
     focusHeard_ = true;

@@ -62,7 +62,7 @@ public:
     [[nodiscard]] std::vector<Window*> windows() const;
     [[nodiscard]] Window* front() const;
     void bringToFront(Window& window);
-    /// Unloads; false when the window's query keeps it open. The focus goes on to the window in front then.
+    /// Unloads, and the focus goes on to the window in front then; false when the window's query keeps it open.
     bool unload(Window& window);
     /// The focused control of the window hears that it loses the focus; false when it took it back.
     bool leave(Window& window);
@@ -139,11 +139,25 @@ private:
         std::shared_ptr<void> logic;
     };
 
+    /// Windows that go meanwhile are kept until the last handler has returned.
+    class Keep {
+    public:
+        explicit Keep(Desk& desk) : desk_(desk) { ++desk_.depth_; }
+        Keep(const Keep&) = delete;
+        Keep& operator=(const Keep&) = delete;
+        ~Keep() { desk_.release(); }
+
+    private:
+        Desk& desk_;
+    };
+
     bool attempt(const std::function<bool()>& action);
+    void release();
     void leaveAct();
     void fail(const std::string& what);
     void focusFirst(Window& window);
     void focusFront();
+    void takeAway(Window& window);
     [[nodiscard]] std::vector<OpenWindow>::iterator place(const Window& window);
     void activate(Window& window);
     void choose(Control& list, int entry);

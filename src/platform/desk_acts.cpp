@@ -34,11 +34,14 @@ void Desk::check(Control& button) {
 
 bool Desk::click(Control& control) {
     return attempt([&] {
-        if (!control.shown() || !control.usable() || !reachable(*control.window)) {
+        if (!control.shown() || !control.usable() || !control.onCurrentPage() || !reachable(*control.window)) {
             return false;
         }
         if (control.focusable() && !setFocus(control)) {
             return true; // the person did click; a check held the focus back
+        }
+        if (!control.shown() || !control.usable()) {
+            return true; // what the old control did on its way out took it from under the pointer
         }
         check(control);
         raise(control.on.click);
@@ -60,7 +63,7 @@ bool Desk::doubleClick(Control& control) {
 
 bool Desk::rightClick(Control& control, int row) {
     return attempt([&] {
-        if (!control.shown() || !control.usable() || !reachable(*control.window)) {
+        if (!control.shown() || !control.usable() || !control.onCurrentPage() || !reachable(*control.window)) {
             return false;
         }
         raise(control.on.rightClick, row);
@@ -130,6 +133,9 @@ bool Desk::select(Control& list, std::span<const int> entries) {
         } else {
             return false;
         }
+        if (list.hasText()) {
+            raise(list.on.change);
+        }
         raise(list.on.click);
         return true;
     });
@@ -189,12 +195,12 @@ bool Desk::close(Window& window) {
         if (!reachable(window)) {
             return false;
         }
-        auto* before = focus_;
-        if (!leave(window)) {
-            return true;
+        // The frame's button brings the window to the front first; a check in another window may hold that back.
+        if (front() != &window) {
+            focusFirst(window);
         }
-        if (!unload(window) && focus_ == nullptr && before != nullptr) {
-            setFocus(*before);
+        if (front() == &window && leave(window)) {
+            unload(window);
         }
         return true;
     });

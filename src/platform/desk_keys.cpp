@@ -75,6 +75,22 @@ int entryBeginningWith(const ItemList& items, int character) {
     return -1;
 }
 
+/// Control characters but Enter and Backspace leave no trace in a text.
+bool typeInto(TextPart& box, int character) {
+    if (character == CharacterBackspace) {
+        return deleteBackward(box);
+    }
+    if (character == CharacterEnter) {
+        return box.multiLine && insertText(box, "\r\n");
+    }
+    return character >= keys::Space && insertText(box, std::string(1, static_cast<char>(character)));
+}
+
+/// What a box takes of a text from the clipboard: a single line ends where the first line ends.
+std::string_view pasted(const TextPart& box, std::string_view text) {
+    return box.multiLine ? text : text.substr(0, text.find_first_of("\r\n"));
+}
+
 } // namespace
 
 bool Desk::press(Control& control, int code, int shift) {
@@ -94,12 +110,7 @@ void Desk::pressCharacter(Control& control, int character) {
         return;
     }
     if (control.hasText()) {
-        const bool lineEnd = character == CharacterEnter;
-        if (lineEnd && !control.text().multiLine) {
-            return;
-        }
-        const std::string typed = lineEnd ? "\r\n" : std::string(1, static_cast<char>(character));
-        if (insertText(control.text(), typed)) {
+        if (typeInto(control.text(), character)) {
             changed(control);
         }
     } else if (character == keys::Space && (control.kind == ControlKind::Button || control.kind == ControlKind::CheckBox ||
@@ -107,7 +118,7 @@ void Desk::pressCharacter(Control& control, int character) {
         click(control);
     } else if (control.kind == ControlKind::Button && character == CharacterEnter) {
         click(control);
-    } else if (control.kind == ControlKind::List || control.kind == ControlKind::Combo) {
+    } else if (character >= keys::Space && (control.kind == ControlKind::List || control.kind == ControlKind::Combo)) {
         if (const int entry = entryBeginningWith(control.items(), character); entry >= 0) {
             const std::array chosen{entry};
             select(control, chosen);
@@ -120,11 +131,16 @@ bool Desk::type(std::string_view text) {
         if (focus_ == nullptr) {
             return false;
         }
-        for (const char c : text) {
-            if (c == '\n' || focus_ == nullptr) {
-                continue; // a line end is one press of Enter, by its CR or alone
+        for (std::size_t i = 0; i < text.size() && focus_ != nullptr; ++i) {
+            const char c = text[i];
+            if (c == '\n' && i > 0 && text[i - 1] == '\r') {
+                continue; // a line end of two characters is one press of Enter
             }
-            pressCharacter(*focus_, static_cast<unsigned char>(c));
+            if (c == '\t') {
+                moveTab(false);
+            } else {
+                pressCharacter(*focus_, c == '\n' ? CharacterEnter : static_cast<unsigned char>(c));
+            }
         }
         return true;
     });
@@ -172,11 +188,10 @@ bool Desk::key(Key key) {
             pressCharacter(control, CharacterEnter);
             break;
         case Key::Escape:
-            if (control.on.keyPress) {
-                int character = CharacterEscape;
-                const auto handler = control.on.keyPress;
-                handler(character);
-            }
+            pressCharacter(control, CharacterEscape);
+            break;
+        case Key::Backspace:
+            pressCharacter(control, CharacterBackspace);
             break;
         case Key::CtrlX:
         case Key::CtrlC:
@@ -200,7 +215,7 @@ void Desk::clipboardKey(Control& control, Key key) {
     }
     auto& box = control.text();
     if (key == Key::CtrlV) {
-        if (const auto text = services_.clipboard.text(); text && insertText(box, *text)) {
+        if (const auto text = services_.clipboard.text(); text && insertText(box, pasted(box, *text))) {
             changed(control);
         }
         return;
@@ -218,15 +233,6 @@ void Desk::editKey(Control& control, Key key) {
     auto& box = control.text();
     bool other = false;
     switch (key) {
-    case Key::Backspace: {
-        int character = CharacterBackspace;
-        if (control.on.keyPress) {
-            const auto handler = control.on.keyPress;
-            handler(character);
-        }
-        other = character != 0 && deleteBackward(box);
-        break;
-    }
     case Key::Delete:
         other = deleteForward(box);
         break;

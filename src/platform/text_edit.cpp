@@ -32,7 +32,7 @@ bool eraseRange(TextPart& box, int start, int length) {
 
 bool insertText(TextPart& box, std::string_view text) {
     clampSelection(box);
-    if (box.locked) {
+    if (box.locked || (text.empty() && box.selLength == 0)) {
         return false;
     }
     box.text.replace(static_cast<std::size_t>(box.selStart), static_cast<std::size_t>(box.selLength), text);

@@ -39,7 +39,8 @@ public:
     WindowEvents on;
 
     /// Adds a control at the end of the tab order, with the part that its kind needs.
-    Control& add(ControlKind kind, std::string controlName, std::string controlCaption = {}, std::optional<int> index = std::nullopt);
+    Control& add(ControlKind kind, std::string controlName, std::string controlCaption = {},
+                 std::optional<int> index = std::nullopt);
     /// None of that name is a null pointer; the name of a control array without an index finds its first element.
     [[nodiscard]] Control* find(std::string_view controlName, std::optional<int> index = std::nullopt) const;
     /// The same, but a control that isn't there is a std::out_of_range.

@@ -5,11 +5,14 @@
 
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <utility>
 
 namespace kov::tool {
 namespace {
@@ -40,11 +43,9 @@ std::optional<std::string> contentOf(const std::string& path) {
         return std::nullopt;
     }
     std::string content;
-    if (std::fseek(file.get(), 0, SEEK_END) == 0) {
-        const long size = std::ftell(file.get());
-        std::rewind(file.get());
-        content.reserve(size > 0 ? static_cast<std::size_t>(size) : 0);
-    }
+    std::error_code unknown;
+    const auto size = std::filesystem::file_size(path, unknown);
+    content.reserve(unknown ? 0 : static_cast<std::size_t>(size));
     std::string block(std::size_t{1} << 16U, '\0');
     for (std::size_t got = block.size(); got == block.size();) {
         got = std::fread(block.data(), 1, block.size(), file.get());

@@ -1,7 +1,11 @@
 #include "app/composition/program.hpp"
 
 #include "core/dataset/progress.hpp"
+#include "shell/general/general.hpp"
+#include "shell/general/options.hpp"
+#include "shell/general/sim_ctrl.hpp"
 #include "shell/main/about.hpp"
+#include "shell/main/counts.hpp"
 #include "shell/main/main_window.hpp"
 #include "vent/editor/fan_table.hpp"
 #include "vent/editor/fan_types.hpp"
@@ -30,6 +34,10 @@ void Program::registerWindows() {
     desk_.registerWindow("FanTable", [this](Window& window) { return std::make_shared<FanTable>(app_, window); });
     desk_.registerWindow("frmMain",
                          [this](Window& window) { return std::make_shared<MainWindow>(app_, window, commandLine_); });
+    desk_.registerWindow("General", [this](Window& window) { return std::make_shared<General>(app_, window); });
+    desk_.registerWindow("Options", [this](Window& window) { return std::make_shared<Options>(app_, window); });
+    desk_.registerWindow("SimCtrl", [this](Window& window) { return std::make_shared<SimCtrl>(app_, window); });
+    desk_.registerWindow("frmCounts", [this](Window& window) { return std::make_shared<Counts>(app_, window); });
 }
 
 void Program::start(const std::string& commandLine) {

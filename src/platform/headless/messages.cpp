@@ -54,16 +54,15 @@ Answer HeadlessMessages::answerTo(const Box& box) {
     if ((box.style & ButtonBits) == 0) {
         return Answer::Ok;
     }
-    const auto about = " the message box " + std::to_string(box.style) + " \"" + box.title + "\" \"" + box.prompt + "\"";
     const auto fallback = offers(box.style, Answer::Cancel) ? Answer::Cancel : Answer::No;
     if (answers_.empty()) {
-        complaints_.push_back("no answer is queued for" + about);
+        complaints_.push_back({"no answer is queued for", box});
         return fallback;
     }
     const auto answer = answers_.front();
     answers_.pop_front();
     if (!offers(box.style, answer)) {
-        complaints_.push_back("the queued answer " + std::string(nameOf(answer)) + " is not offered by" + about);
+        complaints_.push_back({"the queued answer " + std::string(nameOf(answer)) + " is not offered by", box});
         return fallback;
     }
     return answer;
@@ -76,6 +75,6 @@ Answer HeadlessMessages::show(int style, const std::string& title, const std::st
     return box.answer;
 }
 
-std::vector<std::string> HeadlessMessages::takeComplaints() { return std::exchange(complaints_, {}); }
+std::vector<HeadlessMessages::Complaint> HeadlessMessages::takeComplaints() { return std::exchange(complaints_, {}); }
 
 } // namespace kov

@@ -19,20 +19,26 @@ public:
         Answer answer = Answer::Ok;
     };
 
+    /// A box that the queue didn't serve, and why.
+    struct Complaint {
+        std::string reason;
+        Box box;
+    };
+
     Answer show(int style, const std::string& title, const std::string& prompt) override;
 
     void queue(Answer answer) { answers_.push_back(answer); }
     /// All boxes so far, the oldest first.
     [[nodiscard]] const std::vector<Box>& boxes() const { return boxes_; }
     /// What was wrong with the queue since this was asked the last time.
-    [[nodiscard]] std::vector<std::string> takeComplaints();
+    [[nodiscard]] std::vector<Complaint> takeComplaints();
 
 private:
     [[nodiscard]] Answer answerTo(const Box& box);
 
     std::deque<Answer> answers_;
     std::vector<Box> boxes_;
-    std::vector<std::string> complaints_;
+    std::vector<Complaint> complaints_;
 };
 
 } // namespace kov

@@ -29,7 +29,12 @@ void EntryWindow::loadStep() {
     window_.oldH = window_.bounds.height;
     if (const auto* main = app_.desk.find("frmMain")) {
         const auto& place = main->bounds;
-        window_.moveTo({place.left + BesideLeft, place.top + BelowTop, place.width * PartOfWidth, place.height * PartOfHeight});
+        window_.bounds = {place.left + BesideLeft, place.top + BelowTop, place.width * PartOfWidth,
+                          place.height * PartOfHeight};
+    }
+    // Also at an unchanged size: the chosen font comes with it.
+    if (window_.on.resize) {
+        window_.on.resize();
     }
 }
 

@@ -153,8 +153,9 @@ void GridOverlay::moveOn(int row, int col) {
     grid().setRow(row);
     grid().setCol(col);
     grid().select({row, row, col, col});
-    if (app_.desk.setFocus(grid_) && (grid().row() != app_.GridRow || grid().col() != app_.GridCol)) {
-        onCellChange();
+    const bool another = grid().row() != app_.GridRow || grid().col() != app_.GridCol;
+    if (app_.desk.setFocus(grid_) && another && grid_.on.cellChange) {
+        grid_.on.cellChange();
     }
 }
 

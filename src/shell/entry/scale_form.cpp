@@ -82,9 +82,11 @@ void ScaleForm(const Application& app, Window& window) {
         if (control->kind == ControlKind::Grid) {
             scaleColumns(control->grid(), ratio.width);
         }
-        if (app.UserFontSize >= 1 && takesFont(control->kind)) {
-            control->fontName = app.UserFontName;
-            control->fontSize = app.UserFontSize;
+        if (takesFont(control->kind)) {
+            // Without a chosen size it is the design font, also where another one was chosen before.
+            const bool chosen = app.UserFontSize >= 1;
+            control->fontName = chosen ? app.UserFontName : std::string{};
+            control->fontSize = chosen ? app.UserFontSize : 0;
         }
     }
 }

@@ -44,7 +44,8 @@ MainWindow::MainWindow(Application& app, Window& window, std::string commandLine
 
 void MainWindow::load(const std::string& commandLine) {
     LoadSettings();
-    window_.moveTo(start_);
+    window_.bounds = start_;
+    ScaleForm(app_, window_); // also at the design size: the chosen font comes with it
     if (!commandLine.empty()) {
         app_.current = {commandLine, SplitPath(commandLine).name};
         files_.load();
@@ -53,6 +54,7 @@ void MainWindow::load(const std::string& commandLine) {
 }
 
 void MainWindow::Showflds() {
+    flags_.FieldChanged = false; // what was being typed is gone
     const auto& data = *app_.DataSet;
     window_.control("tbSysID").setText(data.Sysid.trimmed());
     window_.control("tbTitle").setText(trimRight(data.Title()));
@@ -211,7 +213,11 @@ void MainWindow::onReset() {
         {Twips{(width - DesignWidth.value) / 2}, Twips{(width - DesignHeight.value) / 2}, DesignWidth, DesignHeight});
 }
 
-void MainWindow::onAbout() { app_.desk.show("About"); }
+void MainWindow::onAbout() {
+    if (auto* about = app_.desk.show("About")) {
+        about->control("Timer1").timer().on = false; // the splash stays too, when it is still there
+    }
+}
 
 void MainWindow::Progress::setBusy(bool busy) { app_.desk.setBusy(busy); }
 void MainWindow::Progress::setVisible(bool visible) {

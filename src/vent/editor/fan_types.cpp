@@ -38,7 +38,7 @@ constexpr std::array Fields{
 constexpr std::span<const Field> All{Fields};
 constexpr const Field& Pressure = Fields[5];
 constexpr const Field& Flow = Fields[6];
-constexpr Field Number{"tbFanNo", "Fan", "", text(), "", nullptr, ""};
+constexpr Field Number{"tbFanNo", "Fan", "", integer(0, 0), "", nullptr, ""}; // shows a number, takes none
 
 struct Member {
     std::string_view control;

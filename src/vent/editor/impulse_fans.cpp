@@ -26,7 +26,7 @@ constexpr std::array Fields{
     Field{"tbTmOff", "Switch Off Time", "sec", integer(0, 10000), "Simulation Time at which fan turns OFF:  0 to 10000 sec.",
           nullptr, "Form 7C, columns 41-50"},
 };
-constexpr Field Number{"tbFanNo", "Fan", "", text(), "", nullptr, ""};
+constexpr Field Number{"tbFanNo", "Fan", "", integer(0, 0), "", nullptr, ""}; // shows a number, takes none
 
 } // namespace
 

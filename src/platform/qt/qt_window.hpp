@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform/qt/control_view.hpp"
+#include "platform/qt/menus.hpp"
+
+#include <QWidget>
+
+#include <array>
+#include <map>
+#include <memory>
+#include <unordered_map>
+
+class QKeyEvent;
+class QLabel;
+class QMenuBar;
+class QStatusBar;
+class QTimer;
+
+namespace kov::qt {
+
+/// The real window of one window of the desk: menu bar, the controls on an area as large as the window's bounds, and for the
+/// main window the status bar.
+class QtWindow final : public QWidget {
+public:
+    QtWindow(Window& window, Ground& ground, bool realTimers);
+
+    /// Brings the widgets to the state of the window.
+    void sync();
+    /// The desk's window is gone; nothing of it is touched any more.
+    void abandon();
+    /// The focus goes to that control's widget.
+    void focus(const Control& control);
+    [[nodiscard]] Window* window() const { return window_; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void addViews();
+    void addView(Control& control);
+    void watch(QWidget& widget, ControlView& view);
+    void syncFrame();
+    void syncPlace();
+    void syncPopup();
+    void syncTimers();
+    void syncStatus();
+    void arrange();
+    void person();
+    [[nodiscard]] int extraHeight() const;
+    [[nodiscard]] QPoint shiftOf(const Control& control) const;
+    [[nodiscard]] bool keyPressed(ControlView& view, const QKeyEvent& event);
+    [[nodiscard]] bool typed(const ControlView& view, const QKeyEvent& event);
+
+    Window* window_;
+    Ground* ground_;
+    bool realTimers_;
+    QMenuBar* bar_;
+    QWidget* area_;
+    QStatusBar* status_ = nullptr;
+    std::array<QLabel*, 3> panels_{};
+    Menus menus_;
+    std::map<const Control*, std::unique_ptr<ControlView>> views_;
+    std::unordered_map<const QObject*, ControlView*> watched_;
+    std::map<const Control*, QTimer*> timers_;
+    std::size_t known_ = 0; // controls of the window that have their view
+    Bounds applied_;
+    bool placed_ = false;
+    bool topmost_ = false;
+};
+
+} // namespace kov::qt

@@ -1,0 +1,11 @@
+# Runs SCRIPT with TOOL in FOLDER, which is made anew: samples/ and what lies in FILES are copies.
+file(REMOVE_RECURSE ${FOLDER})
+file(MAKE_DIRECTORY ${FOLDER})
+file(COPY ${SAMPLES} DESTINATION ${FOLDER})
+if(EXISTS ${FILES})
+  file(COPY ${FILES}/ DESTINATION ${FOLDER})
+endif()
+execute_process(COMMAND ${TOOL} drive ${SCRIPT} WORKING_DIRECTORY ${FOLDER} RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "kovtool drive ended with ${result}")
+endif()
