@@ -81,6 +81,8 @@ std::string Arguments::text(std::string_view what) {
     return std::move(word.text);
 }
 
+std::string Arguments::key(std::string_view what) { return take(std::string(what)).text; }
+
 int Arguments::number(std::string_view what) {
     const auto kind = "a whole number (" + std::string(what) + ")";
     const auto word = take(kind);

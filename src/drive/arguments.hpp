@@ -33,6 +33,8 @@ public:
 
     std::string name(std::string_view what);
     std::string text(std::string_view what);
+    /// A name that may stand in quotes too.
+    std::string key(std::string_view what);
     int number(std::string_view what);
     /// A whole number that is 0 or more.
     int count(std::string_view what);

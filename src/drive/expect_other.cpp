@@ -115,7 +115,7 @@ Act clipboard(Arguments& arguments) {
 }
 
 Act setting(Arguments& arguments) {
-    const auto key = arguments.name("the setting's key");
+    const auto key = arguments.key("the setting's key");
     const auto value = arguments.text("the setting's value");
     return [key, value](Stage& stage) {
         const auto was = stage.around.settings.find(key);

@@ -40,9 +40,6 @@ Stage::~Stage() {
 }
 
 void Stage::start(const std::string& commandLine) {
-    if (program_ && !program_->desk.ended()) {
-        throw CannotRun("the program is running already");
-    }
     if (failure) {
         findings_.push_back("expected no failure, the program ended: " + utf8OfText(*std::exchange(failure, std::nullopt)));
     }

@@ -31,6 +31,7 @@ public:
     Surroundings around;
     std::ostream& out;
 
+    /// Ends a program that still runs, with nothing asked.
     void start(const std::string& commandLine);
     [[nodiscard]] DrivenProgram& program();
     [[nodiscard]] Desk& desk() { return program().desk; }

@@ -67,7 +67,7 @@ Act process(Arguments& arguments) {
 }
 
 Act setting(Arguments& arguments) {
-    const auto key = arguments.name("the setting's key");
+    const auto key = arguments.key("the setting's key");
     const auto value = arguments.text("the setting's value");
     return [key, value](Stage& stage) { stage.around.settings.set(key, value); };
 }

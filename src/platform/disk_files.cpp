@@ -93,7 +93,9 @@ PlatformError store(const fs::path& path, std::string_view content) {
         return isFolder(path.parent_path()) ? AccessError : PathNotFound;
     }
     errno = 0;
-    bool written = std::fwrite(content.data(), 1, content.size(), file.get()) == content.size() && sync(file.get());
+    // An empty view may have no data at all, which fwrite must not be given.
+    const bool taken = content.empty() || std::fwrite(content.data(), 1, content.size(), file.get()) == content.size();
+    bool written = taken && sync(file.get());
     const int reason = errno;
     written = std::fclose(file.release()) == 0 && written;
     if (written) {

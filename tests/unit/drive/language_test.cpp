@@ -163,8 +163,14 @@ TEST(DriveRunner, KeepsSettingsForAProgramThatIsStartedAgain) {
               Passed);
 }
 
-TEST(DriveRunner, DoesNotStartAProgramThatRuns) {
-    EXPECT_EQ(play("start\nstart\n"), "s:2: the program is running already\n0 passed, 1 failed\n");
+TEST(DriveRunner, StartsAfreshWhileAProgramStillRuns) {
+    EXPECT_EQ(play("start\ntype \"new\"\nclick test.cmdSetting\nexpect dirty yes\nstart \"b\"\nexpect dirty no\n"
+                   "expect test.tbText text \"old\"\nexpect test caption \"Test b\"\nexpect setting Last \"none+\"\n"),
+              Passed);
+}
+
+TEST(DriveRunner, TakesASettingsKeyInQuotesToo) {
+    EXPECT_EQ(play("setting \"Last\" \"x\"\nexpect setting Last \"x\"\nexpect setting \"Last\" \"x\"\n"), Passed);
 }
 
 TEST(DriveRunner, CantWorkAProgramThatWasNotStarted) {

@@ -1,0 +1,12 @@
+#include "platform/qt/look.hpp"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    kov::qt::setLook(application, kov::qt::Look::Light);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
