@@ -37,6 +37,8 @@ const char* nameOf(ControlKind kind) {
         return "spin button";
     case ControlKind::Image:
         return "image";
+    case ControlKind::Drawing:
+        return "drawing";
     case ControlKind::Progress:
         return "progress bar";
     case ControlKind::Line:

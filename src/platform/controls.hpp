@@ -4,6 +4,7 @@
 #include "platform/item_list.hpp"
 #include "platform/units.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -31,6 +32,7 @@ enum class ControlKind : std::uint8_t {
     TabStrip,
     Spin,
     Image,
+    Drawing,
     Progress,
     Line,
     Menu,
@@ -81,6 +83,38 @@ struct ImagePart {
     std::string path;
 };
 
+/// Lines, marks and texts that the program has computed, in twips from the control's upper left corner; a view only paints
+/// them, in colours that it picks for each tone, so that they can be told apart on its background.
+struct DrawingPart {
+    enum class Tone : std::uint8_t { Text, Axis, Faint, First, Second, Limit };
+    enum class Anchor : std::uint8_t { Left, Center, Right };
+    struct Point {
+        Twips x;
+        Twips y;
+    };
+    struct Polyline {
+        std::vector<Point> points;
+        Tone tone = Tone::Axis;
+        bool dashed = false;
+    };
+    /// A small dot on a point of a curve.
+    struct Mark {
+        Point at;
+        Tone tone = Tone::First;
+    };
+    /// A text whose left end, middle or right end, at half its height, stands at a point.
+    struct Label {
+        Point at;
+        std::string text;
+        Anchor anchor = Anchor::Left;
+        Tone tone = Tone::Text;
+    };
+    std::vector<Polyline> lines;
+    std::vector<Mark> marks;
+    std::vector<Label> labels;
+    std::size_t revision = 0; ///< grows with every change, so that a view knows that it is stale
+};
+
 /// An entry of a menu, or a menu of its own when `entries` of it exist. A caption of "-" is a separator.
 struct MenuPart {
     std::string menu; ///< name of the menu that it stands in; empty for the bar itself
@@ -119,8 +153,8 @@ struct Events {
 
 /// One control of a window: its state, and what is to happen when a person uses it.
 struct Control {
-    using Part = std::variant<std::monostate, TextPart, ListPart, ComboPart, Grid, TabPart, ProgressPart, ImagePart, MenuPart,
-                              TimerPart>;
+    using Part = std::variant<std::monostate, TextPart, ListPart, ComboPart, Grid, TabPart, ProgressPart, ImagePart,
+                              DrawingPart, MenuPart, TimerPart>;
 
     ControlKind kind = ControlKind::Label;
     std::string name;
@@ -156,6 +190,10 @@ struct Control {
     [[nodiscard]] TabPart& tabs() { return std::get<TabPart>(part); }
     [[nodiscard]] const TabPart& tabs() const { return std::get<TabPart>(part); }
     [[nodiscard]] ProgressPart& progress() { return std::get<ProgressPart>(part); }
+    [[nodiscard]] ImagePart& image() { return std::get<ImagePart>(part); }
+    [[nodiscard]] const ImagePart& image() const { return std::get<ImagePart>(part); }
+    [[nodiscard]] DrawingPart& drawing() { return std::get<DrawingPart>(part); }
+    [[nodiscard]] const DrawingPart& drawing() const { return std::get<DrawingPart>(part); }
     [[nodiscard]] MenuPart& menu() { return std::get<MenuPart>(part); }
     [[nodiscard]] const MenuPart& menu() const { return std::get<MenuPart>(part); }
     [[nodiscard]] TimerPart& timer() { return std::get<TimerPart>(part); }

@@ -21,6 +21,8 @@ Control::Part partOf(ControlKind kind) {
         return ProgressPart{};
     case ControlKind::Image:
         return ImagePart{};
+    case ControlKind::Drawing:
+        return DrawingPart{};
     case ControlKind::Menu:
         return MenuPart{};
     case ControlKind::Timer:

@@ -3,17 +3,23 @@
 #include "core/dataset/progress.hpp"
 #include "fire/editor/fire_editor.hpp"
 #include "fire/editor/zone_editor.hpp"
+#include "line/editor/line_sections.hpp"
+#include "line/editor/line_segments.hpp"
 #include "rail/editor/initial_train_editor.hpp"
 #include "rail/editor/route_editor.hpp"
 #include "rail/editor/train_editor.hpp"
-#include "line/editor/line_sections.hpp"
-#include "line/editor/line_segments.hpp"
 #include "shell/general/general.hpp"
 #include "shell/general/options.hpp"
 #include "shell/general/sim_ctrl.hpp"
 #include "shell/main/about.hpp"
 #include "shell/main/counts.hpp"
 #include "shell/main/main_window.hpp"
+#include "vent/editor/fan_table.hpp"
+#include "vent/editor/fan_types.hpp"
+#include "vent/editor/impulse_fans.hpp"
+#include "vent/editor/node_details.hpp"
+#include "vent/editor/vent_sections.hpp"
+#include "vent/editor/vent_shafts.hpp"
 
 #include <exception>
 
@@ -26,20 +32,26 @@ Program::Program(Services services, const std::string& appPath) : desk_(services
 }
 
 void Program::registerWindows() {
-    registerEditor<FireEditor>("frmFires");
-    registerEditor<ZoneEditor>("ECZones");
-    registerEditor<RouteEditor>("Route1");
-    registerEditor<TrainEditor>("Trains");
-    registerEditor<InitialTrainEditor>("TrnInit");
-    desk_.registerWindow("About", [this](Window& window) { return std::make_shared<About>(app_, window); });
-    desk_.registerWindow("frmLSect", [this](Window& window) { return std::make_shared<LineSections>(app_, window); });
-    desk_.registerWindow("lseg", [this](Window& window) { return std::make_shared<LineSegments>(app_, window); });
     desk_.registerWindow("frmMain",
                          [this](Window& window) { return std::make_shared<MainWindow>(app_, window, commandLine_); });
-    desk_.registerWindow("General", [this](Window& window) { return std::make_shared<General>(app_, window); });
-    desk_.registerWindow("Options", [this](Window& window) { return std::make_shared<Options>(app_, window); });
-    desk_.registerWindow("SimCtrl", [this](Window& window) { return std::make_shared<SimCtrl>(app_, window); });
-    desk_.registerWindow("frmCounts", [this](Window& window) { return std::make_shared<Counts>(app_, window); });
+    registerWindow<About>("About");
+    registerWindow<Counts>("frmCounts");
+    registerWindow<General>("General");
+    registerWindow<Options>("Options");
+    registerWindow<SimCtrl>("SimCtrl");
+    registerWindow<LineSections>("frmLSect");
+    registerWindow<LineSegments>("lseg");
+    registerWindow<FireEditor>("frmFires");
+    registerWindow<ZoneEditor>("ECZones");
+    registerWindow<VentSections>("frmVSect");
+    registerWindow<VentShafts>("vshaft");
+    registerWindow<NodeDetails>("NodeDtl");
+    registerWindow<FanTypes>("frmXFan");
+    registerWindow<ImpulseFans>("frmIFan");
+    registerWindow<FanTable>("FanTable");
+    registerWindow<RouteEditor>("Route1");
+    registerWindow<TrainEditor>("Trains");
+    registerWindow<InitialTrainEditor>("TrnInit");
 }
 
 void Program::start(const std::string& commandLine) {

@@ -23,8 +23,8 @@ public:
 
 private:
     void registerWindows();
-    template <typename Editor> void registerEditor(const std::string& name) {
-        desk_.registerWindow(name, [this](Window& window) { return std::make_shared<Editor>(app_, window); });
+    template <typename Content> void registerWindow(const std::string& name) {
+        desk_.registerWindow(name, [this](Window& window) { return std::make_shared<Content>(app_, window); });
     }
     [[nodiscard]] std::string rescueData();
 

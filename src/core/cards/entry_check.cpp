@@ -30,6 +30,28 @@ float single(double value) {
     return static_cast<float>(value);
 }
 
+/// `round` decides how many bits the number may have.
+bool checkWhole(std::string& text, std::int32_t low, std::int32_t high, MessageSink& messages, std::int32_t (*round)(double)) {
+    if (trim(text).empty()) {
+        return false;
+    }
+    if (!isNumeric(text)) {
+        refuseText(text, messages);
+        return true;
+    }
+    const double entered = fieldValue(text);
+    const std::int32_t rounded = round(entered);
+    bool refused = false;
+    if (rounded < low || rounded > high) {
+        refused = wantsAnotherTry(plainNumber(low), plainNumber(high), messages);
+    } else if (entered != rounded) {
+        messages.show(OkBox, "Invalid Entry", "Integer Value Required");
+        refused = true;
+    }
+    text = bareNumber(rounded);
+    return refused;
+}
+
 } // namespace
 
 bool CheckReal(std::string& text, double low, double high, MessageSink& messages) {
@@ -52,24 +74,11 @@ bool CheckReal(std::string& text, double low, double high, MessageSink& messages
 }
 
 bool CheckInt(std::string& text, std::int32_t low, std::int32_t high, MessageSink& messages) {
-    if (trim(text).empty()) {
-        return false;
-    }
-    if (!isNumeric(text)) {
-        refuseText(text, messages);
-        return true;
-    }
-    const double entered = fieldValue(text);
-    const std::int16_t rounded = toInt16(entered);
-    bool refused = false;
-    if (rounded < low || rounded > high) {
-        refused = wantsAnotherTry(plainNumber(low), plainNumber(high), messages);
-    } else if (entered != rounded) {
-        messages.show(OkBox, "Invalid Entry", "Integer Value Required");
-        refused = true;
-    }
-    text = bareNumber(rounded);
-    return refused;
+    return checkWhole(text, low, high, messages, [](double value) { return std::int32_t{toInt16(value)}; });
+}
+
+bool CheckLong(std::string& text, std::int32_t low, std::int32_t high, MessageSink& messages) {
+    return checkWhole(text, low, high, messages, toInt32);
 }
 
 } // namespace kov

@@ -16,4 +16,7 @@ namespace kov {
 /// is a Failure ("Overflow"), whatever the limits are.
 [[nodiscard]] bool CheckInt(std::string& text, std::int32_t low, std::int32_t high, MessageSink& messages);
 
+/// The same, for the few integers that may need 32 bits.
+[[nodiscard]] bool CheckLong(std::string& text, std::int32_t low, std::int32_t high, MessageSink& messages);
+
 } // namespace kov

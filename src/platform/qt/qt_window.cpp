@@ -31,6 +31,7 @@ int layer(ControlKind kind) {
     case ControlKind::Panel:
         return 1;
     case ControlKind::Image:
+    case ControlKind::Drawing:
     case ControlKind::Line:
     case ControlKind::Label:
         return 2;

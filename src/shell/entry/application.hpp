@@ -5,6 +5,7 @@
 #include "shell/entry/current_file.hpp"
 #include "shell/entry/line_selection.hpp"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -20,10 +21,11 @@ struct Application {
     std::shared_ptr<KOVDataSet> DataSet;
     CurrentFile current;
     LineSelection lineSelection;
-    bool FileDirty = false; ///< the file has changes that are not saved
-    std::string AppPath;    ///< the program's folder, without a separator at its end
-    int GridRow = 0;        ///< row of the cell under the open overlay, from 0
-    int GridCol = 0;        ///< its column, from 0
+    std::int16_t CurShaft = 0; ///< which shaft the window `vshaft` is to show first, from 1; 0: the first
+    bool FileDirty = false;    ///< the file has changes that are not saved
+    std::string AppPath;       ///< the program's folder, without a separator at its end
+    int GridRow = 0;           ///< row of the cell under the open overlay, from 0
+    int GridCol = 0;           ///< its column, from 0
     std::string UserFontName;
     int UserFontSize = 0; ///< 0: the design font
 

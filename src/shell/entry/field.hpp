@@ -7,7 +7,7 @@
 
 namespace kov {
 
-enum class FieldKind : std::uint8_t { Text, Real, Integer, Check };
+enum class FieldKind : std::uint8_t { Text, Real, Integer, LongInteger, Check };
 
 /// How an entry is checked: its kind, and the limits, inclusive, of a number.
 struct Rule {
@@ -20,6 +20,8 @@ struct Rule {
 [[nodiscard]] constexpr Rule checkBox() { return {FieldKind::Check, 0, 0}; }
 [[nodiscard]] constexpr Rule real(double low, double high) { return {FieldKind::Real, low, high}; }
 [[nodiscard]] constexpr Rule integer(double low, double high) { return {FieldKind::Integer, low, high}; }
+/// An integer that may need more than 16 bits.
+[[nodiscard]] constexpr Rule longInteger(double low, double high) { return {FieldKind::LongInteger, low, high}; }
 
 /// One entry field of a window: what the engineer sees of it, how it is checked, and, for the ten-column reals of the data set,
 /// where it is kept. Layout, hints, checks, load, store and the help pages all read this.

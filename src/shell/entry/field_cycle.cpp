@@ -36,6 +36,8 @@ bool checkEntry(std::string& text, const Rule& rule, MessageSink& messages) {
         return CheckReal(text, rule.low, rule.high, messages);
     case FieldKind::Integer:
         return CheckInt(text, static_cast<std::int32_t>(rule.low), static_cast<std::int32_t>(rule.high), messages);
+    case FieldKind::LongInteger:
+        return CheckLong(text, static_cast<std::int32_t>(rule.low), static_cast<std::int32_t>(rule.high), messages);
     default:
         return false;
     }

@@ -20,18 +20,24 @@ std::string GridRowText(const Grid& grid) {
     return text;
 }
 
-void OpenCell(Application& app, const Control& gridControl, Control& box) {
+void LayOverCell(Application& app, const Control& gridControl, Control& control) {
     const auto& grid = gridControl.grid();
     app.GridRow = grid.row();
     app.GridCol = grid.col();
     const Twips line{LineWidth};
-    box.bounds.left = gridControl.bounds.left + grid.colPos(grid.col()) + line;
-    box.bounds.top = gridControl.bounds.top + grid.rowPos(grid.row()) + line;
-    box.bounds.width = grid.colWidth(grid.col()) - line;
-    box.bounds.height = grid.rowHeight() - line;
-    box.setText(trimRight(grid.currentText()));
+    control.bounds.left = gridControl.bounds.left + grid.colPos(grid.col()) + line;
+    control.bounds.top = gridControl.bounds.top + grid.rowPos(grid.row()) + line;
+    control.bounds.width = grid.colWidth(grid.col()) - line;
+    if (control.kind != ControlKind::Combo) {
+        control.bounds.height = grid.rowHeight() - line;
+    }
+    control.visible = true;
+}
+
+void OpenCell(Application& app, const Control& gridControl, Control& box) {
+    LayOverCell(app, gridControl, box);
+    box.setText(trimRight(gridControl.grid().currentText()));
     box.selectText(0, static_cast<int>(box.text().text.size()));
-    box.visible = true;
 }
 
 GridOverlay::GridOverlay(Application& app, EntryFlags& flags, Control& grid, Control& box, std::span<const Column> columns,
@@ -77,6 +83,9 @@ void GridOverlay::bindDummy(Control& dummy) {
 }
 
 void GridOverlay::open() {
+    if (rules_.openInstead && rules_.openInstead(grid().row(), grid().col())) {
+        return;
+    }
     OpenCell(app_, grid_, box_);
     app_.desk.setFocus(box_);
 }

@@ -16,6 +16,10 @@ namespace kov {
 /// Lays a box over the current cell of a grid, with the cell's text selected, and records the cell in `GridRow`, `GridCol`.
 void OpenCell(Application& app, const Control& grid, Control& box);
 
+/// Lays any control over the current cell of a grid, as `OpenCell` does, and makes it visible. A drop-down list keeps its
+/// height.
+void LayOverCell(Application& app, const Control& grid, Control& control);
+
 /// How a window's grid differs from the common way.
 struct OverlayRules {
     bool opensOnSelect = true;   ///< a click, or another current cell, opens the overlay at once
@@ -34,6 +38,8 @@ struct OverlayRules {
     std::function<void(int row, int col)> refused;
     /// Another cell is current, by the person's move.
     std::function<void()> moved;
+    /// Opens something else over the current cell, or nothing; true when the text box stays closed.
+    std::function<bool(int row, int col)> openInstead;
     std::function<void()> insertRow; ///< instead of adding `newRow`
     std::function<void()> deleteRow; ///< instead of removing the current row
 };

@@ -162,6 +162,20 @@ Control& LayoutPanel::note(std::string_view name, std::string_view text) {
     return label;
 }
 
+Control& LayoutPanel::area(ControlKind kind, std::string_view name, std::string_view text, double width, double height,
+                           std::optional<int> index) {
+    Row row;
+    row.wholeWidth = true;
+    auto& control = add(kind, std::string(name), text);
+    control.index = index;
+    placeAt(control, 0, 0, width, height);
+    row.boxes = {&control};
+    row.boxWidth = width;
+    row.height = height;
+    rows_.push_back(row);
+    return control;
+}
+
 Control& LayoutPanel::button(std::string_view name, std::string_view text) {
     Row row;
     auto& button = add(ControlKind::Button, std::string(name), text);

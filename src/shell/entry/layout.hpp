@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -40,6 +41,9 @@ public:
     Control& note(std::string_view name, std::string_view text);
     /// A button of its own, where the boxes begin.
     Control& button(std::string_view name, std::string_view caption);
+    /// A control that spans the panel: an option button, a picture, a drawing.
+    Control& area(ControlKind kind, std::string_view name, std::string_view caption, double width, double height,
+                  std::optional<int> index = std::nullopt);
     /// A grid under one caption for each column ("lbl" and its name without the prefix, from 0), with an overlay and `Dummy`.
     GridControls grid(std::string_view name, std::span<const Column> columns, int visibleRows,
                       std::string_view overlay = "gtext", std::string_view dummy = "Dummy");

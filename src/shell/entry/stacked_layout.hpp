@@ -16,9 +16,9 @@ struct RowItem {
     double width;
 };
 
-/// Builds a window from parts that stand one below the other: rows of single controls, layouts of panels, a tab strip whose pages
-/// are layouts of their own, and the row of buttons at the bottom. Controls are made on the way, so the order of the calls is
-/// the tab order.
+/// Builds a window from parts that stand one below the other: rows of single controls, layouts of panels, a tab strip whose
+/// pages are layouts of their own, and the row of buttons at the bottom. Controls are made on the way, so the order of the
+/// calls is the tab order.
 class StackedLayout {
 public:
     using Build = std::function<void(Layout&)>;
