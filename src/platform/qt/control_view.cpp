@@ -8,6 +8,17 @@
 #include <cmath>
 
 namespace kov::qt {
+namespace {
+
+constexpr int MiddleGrey = 128, Channel = 256;
+// The face colour that windows were designed on: what has it looks like the window around it.
+constexpr std::int32_t FaceGrey = 0xC0C0C0;
+
+} // namespace
+
+QColor colourOf(std::int32_t backColor) {
+    return {backColor % Channel, backColor / Channel % Channel, backColor / (Channel * Channel) % Channel};
+}
 
 int pixels(Twips length) { return static_cast<int>(std::lround(length.pixels())); }
 
@@ -41,6 +52,27 @@ void ControlView::syncFont() {
     }
 }
 
+void ControlView::syncColour() {
+    if (control_->backColor == backColor_) {
+        return;
+    }
+    backColor_ = control_->backColor;
+    const bool own = backColor_ >= 0 && backColor_ != FaceGrey;
+    const bool box = control_->hasText() || control_->kind == ControlKind::List || control_->kind == ControlKind::Combo;
+    widget_->setAutoFillBackground(own && !box);
+    if (!own) {
+        widget_->setPalette({});
+        return;
+    }
+    const QColor back = colourOf(backColor_);
+    // Readable in the dark look too.
+    const QColor text = back.lightness() < MiddleGrey ? Qt::white : Qt::black;
+    auto palette = widget_->palette();
+    palette.setColor(box ? QPalette::Base : QPalette::Window, back);
+    palette.setColor(box ? QPalette::Text : QPalette::WindowText, text);
+    widget_->setPalette(palette);
+}
+
 void ControlView::sync(const QPoint& shift) {
     const auto place = pixels(control_->bounds).translated(shift);
     if (place != widget_->geometry()) {
@@ -51,6 +83,7 @@ void ControlView::sync(const QPoint& shift) {
         target().setAccessibleName(name);
     }
     syncFont();
+    syncColour();
     widget_->setEnabled(control_->enabled);
     syncContent();
     const bool onPage = control_->strip == nullptr || control_->strip->tabs().current == control_->page;

@@ -2,12 +2,15 @@
 
 #include "platform/desk.hpp"
 
+#include <QColor>
+#include <QElapsedTimer>
 #include <QFont>
 #include <QPoint>
 #include <QPointer>
 #include <QRect>
 #include <QWidget>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -20,6 +23,10 @@ struct Ground {
     Desk& desk;
     bool syncing = false; ///< the widgets are being set from the state: what they report is no person's doing
     int acting = 0;       ///< acts under way; the focus moves of the toolkit inside them are only their consequence
+    /// The window that we have asked the window system to bring to the front: until it is there, what it tells of others is
+    /// old.
+    const Window* awaited = nullptr;
+    QElapsedTimer awaiting{}; ///< a window system that refuses is not waited for
 
     /// Carries out a person's act; a failure inside ends the program and never crosses the toolkit.
     void act(const std::function<void()>& action) {
@@ -64,10 +71,12 @@ protected:
 
 private:
     void syncFont();
+    void syncColour();
 
     Control* control_;
     Ground* ground_;
     QWidget* widget_ = nullptr;
+    std::int32_t backColor_ = -1;
 };
 
 /// The view of a control's kind; null for menus and timers, which have no place in the window.
@@ -75,6 +84,7 @@ private:
 
 // One maker for each group of kinds.
 [[nodiscard]] std::unique_ptr<ControlView> makePlainView(Control& control, Ground& ground, QWidget* parent);
+[[nodiscard]] std::unique_ptr<ControlView> makeImageView(Control& control, Ground& ground, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> makeTextView(Control& control, Ground& ground, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> makeButtonView(Control& control, Ground& ground, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> makeListView(Control& control, Ground& ground, QWidget* parent);
@@ -85,6 +95,8 @@ private:
 /// How far a grid's columns are scrolled to the left, in pixels; 0 for other views.
 [[nodiscard]] int scrolledColumns(const ControlView& view);
 
+/// A background of the logic, red + 256 green + 65536 blue.
+[[nodiscard]] QColor colourOf(std::int32_t backColor);
 /// Twips as logical pixels.
 [[nodiscard]] int pixels(Twips length);
 [[nodiscard]] QRect pixels(const Bounds& bounds);

@@ -2,11 +2,8 @@
 #include "platform/qt/look.hpp"
 #include "platform/qt/text_codec.hpp"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFrame>
 #include <QGroupBox>
-#include <QImageReader>
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
@@ -93,41 +90,6 @@ public:
     }
 };
 
-/// A picture of a file beside the program, fitted into its place. A file that isn't there leaves it empty.
-class ImageView final : public ControlView {
-public:
-    ImageView(Control& control, Ground& ground, QWidget* parent) : ControlView(control, ground), label_(new QLabel(parent)) {
-        label_->setAlignment(Qt::AlignCenter);
-        setWidget(label_);
-    }
-
-private:
-    void syncContent() override {
-        const auto& path = std::get<ImagePart>(control().part).path;
-        if (path == shown_ && label_->size() == size_) {
-            return;
-        }
-        shown_ = path;
-        size_ = label_->size();
-        label_->setPixmap(path.empty() ? QPixmap() : load(path));
-    }
-    [[nodiscard]] QPixmap load(const std::string& path) const {
-        auto name = toQt(path);
-        name.replace(QLatin1Char('\\'), QLatin1Char('/'));
-        QImageReader reader(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(name));
-        const auto ratio = label_->devicePixelRatioF();
-        if (const auto whole = reader.size(); whole.isValid()) {
-            reader.setScaledSize(whole.scaled((QSizeF(label_->size()) * ratio).toSize(), Qt::KeepAspectRatio));
-        }
-        auto picture = QPixmap::fromImage(reader.read());
-        picture.setDevicePixelRatio(ratio);
-        return picture;
-    }
-    QLabel* label_;
-    std::string shown_;
-    QSize size_;
-};
-
 class ProgressView final : public ControlView {
 public:
     ProgressView(Control& control, Ground& ground, QWidget* parent)
@@ -164,7 +126,7 @@ std::unique_ptr<ControlView> makePlainView(Control& control, Ground& ground, QWi
     case ControlKind::Line:
         return std::make_unique<LineView>(control, ground, parent);
     case ControlKind::Image:
-        return std::make_unique<ImageView>(control, ground, parent);
+        return makeImageView(control, ground, parent);
     case ControlKind::Progress:
         return std::make_unique<ProgressView>(control, ground, parent);
     default:

@@ -1,26 +1,20 @@
 #include "platform/qt/qt_window.hpp"
 
 #include "platform/qt/key_map.hpp"
+#include "platform/qt/status_strip.hpp"
 #include "platform/qt/text_codec.hpp"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLocale>
 #include <QMenuBar>
-#include <QScreen>
-#include <QStatusBar>
-#include <QTime>
 #include <QTimer>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kov::qt {
 namespace {
 
-constexpr int ClockInterval = 1000;
+constexpr int ActivationMilliseconds = 2000;
 
 /// Later ones lie above earlier ones; a box over a grid lies on top.
 int layer(ControlKind kind) {
@@ -63,22 +57,7 @@ QtWindow::QtWindow(Window& window, Ground& ground, bool realTimers)
         setWindowModality(Qt::ApplicationModal);
     }
     if (window.name() == "frmMain") {
-        status_ = new QStatusBar(this);
-        for (std::size_t i = 0; i < panels_.size(); ++i) {
-            panels_.at(i) = new QLabel(status_);
-            panels_.at(i)->setObjectName(QStringLiteral("StatBar1.%1").arg(i + 1));
-            panels_.at(i)->setTextFormat(Qt::PlainText);
-            panels_.at(i)->setMinimumWidth(1);
-            status_->addWidget(panels_.at(i), i == 1 ? 1 : 0);
-        }
-        panels_.at(0)->setFixedWidth(pixels(Twips{1500}));
-        panels_.at(2)->setAlignment(Qt::AlignCenter);
-        panels_.at(2)->setFixedWidth(pixels(Twips{1200}));
-        auto* clock = new QTimer(this);
-        QObject::connect(clock, &QTimer::timeout, this, [this] { syncStatus(); });
-        if (realTimers) {
-            clock->start(ClockInterval);
-        }
+        status_ = new StatusStrip(ground.desk, realTimers, this);
     }
 }
 
@@ -150,7 +129,9 @@ void QtWindow::sync() {
         }
     }
     syncTimers();
-    syncStatus();
+    if (status_ != nullptr) {
+        status_->sync();
+    }
     syncPopup();
 }
 
@@ -235,19 +216,6 @@ void QtWindow::syncTimers() {
     }
 }
 
-void QtWindow::syncStatus() {
-    if (status_ == nullptr || window_ == nullptr) {
-        return;
-    }
-    for (int i = 0; i < 2; ++i) {
-        const auto text = toQt(ground_->desk.panel(i + 1));
-        if (auto* panel = panels_.at(static_cast<std::size_t>(i)); panel->text() != text) {
-            panel->setText(text);
-        }
-    }
-    panels_.at(2)->setText(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat));
-}
-
 void QtWindow::syncPopup() {
     for (const auto& control : window_->controls()) {
         if (control->kind == ControlKind::Menu && control->menu().popup) {
@@ -284,6 +252,12 @@ void QtWindow::abandon() {
 
 void QtWindow::person() {
     // Another window of ours came to the front by the window system.
+    if (ground_->awaited == window_ || ground_->awaiting.hasExpired(ActivationMilliseconds)) {
+        ground_->awaited = nullptr;
+    }
+    if (ground_->awaited != nullptr) {
+        return;
+    }
     if (window_ == nullptr || ground_->syncing || ground_->acting > 0 || ground_->desk.front() == window_) {
         return;
     }
@@ -315,6 +289,9 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
     }
     auto& view = *found->second;
     auto& control = view.control();
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) {
+        ground_->awaited = nullptr; // whoever gets keys and the mouse is in front
+    }
     switch (event->type()) {
     case QEvent::KeyPress:
         return !view.open() && keyPressed(view, static_cast<QKeyEvent&>(*event));

@@ -5,18 +5,17 @@
 
 #include <QWidget>
 
-#include <array>
 #include <map>
 #include <memory>
 #include <unordered_map>
 
 class QKeyEvent;
-class QLabel;
 class QMenuBar;
-class QStatusBar;
 class QTimer;
 
 namespace kov::qt {
+
+class StatusStrip;
 
 /// The real window of one window of the desk: menu bar, the controls on an area as large as the window's bounds, and for the
 /// main window the status bar.
@@ -49,7 +48,6 @@ private:
     void syncPlace();
     void syncPopup();
     void syncTimers();
-    void syncStatus();
     void arrange();
     void person();
     [[nodiscard]] int extraHeight() const;
@@ -62,8 +60,7 @@ private:
     bool realTimers_;
     QMenuBar* bar_;
     QWidget* area_;
-    QStatusBar* status_ = nullptr;
-    std::array<QLabel*, 3> panels_{};
+    StatusStrip* status_ = nullptr;
     Menus menus_;
     std::map<const Control*, std::unique_ptr<ControlView>> views_;
     std::unordered_map<const QObject*, ControlView*> watched_;

@@ -67,6 +67,9 @@ void Renderer::dropClosed() {
             ++it;
             continue;
         }
+        if (ground_.awaited == it->first) {
+            ground_.awaited = nullptr;
+        }
         // One of its widgets may be what has just called.
         it->second->abandon();
         it->second.release()->deleteLater();
@@ -89,6 +92,8 @@ void Renderer::syncOrder() {
         auto& window = *windows_.at(front);
         if (!window.isMinimized()) {
             window.raise();
+            ground_.awaited = window.isActiveWindow() ? nullptr : front;
+            ground_.awaiting.start();
             window.activateWindow();
         }
     }

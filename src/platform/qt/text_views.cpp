@@ -46,7 +46,8 @@ void LineEditMirror::edited() {
 
 void LineEditMirror::mirrorSelection() {
     auto& box = control_->text();
-    if (!ground_->syncing && edit_->text() == toQt(box.text)) {
+    // A box that the focus has left shows no selection, and keeps the one that it had.
+    if (!ground_->syncing && ground_->desk.focus() == control_ && edit_->text() == toQt(box.text)) {
         box.selStart = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
         box.selLength = edit_->selectionLength();
     }
@@ -65,7 +66,9 @@ void LineEditMirror::sync() {
         }
     }
     const int start = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
-    if (start != box.selStart || edit_->selectionLength() != box.selLength) {
+    if (ground_->desk.focus() != control_) {
+        edit_->deselect();
+    } else if (start != box.selStart || edit_->selectionLength() != box.selLength) {
         edit_->deselect();
         edit_->setCursorPosition(box.selStart);
         if (box.selLength > 0) {
