@@ -14,8 +14,8 @@ constexpr std::array<std::string_view, 7> Tabs{"&General",    "Heat &Load", "&Re
                                                "&Controller", "&Acc/Decel", "&FlyWheel"};
 constexpr int CaptionCharacters = 20, CaptionOnOneLine = 40;
 constexpr std::string_view RoomOfSpeed = "0000000000";
-constexpr double Margin = 105, InnerTop = 330, IdentityWidth = 3500, OptionWidth = 2000, OptionHeight = 285, ChartWidth = 3000,
-                 ChartHeight = 1500;
+constexpr double Margin = 105, InnerTop = 330, IdentityWidth = 3500, IdentityHeight = 315, OptionWidth = 2000,
+                 OptionHeight = 285, ChartWidth = 3000, ChartHeight = 1500;
 
 Control& add(Window& window, ControlKind kind, std::string_view name, std::string_view caption = {}) {
     return window.add(kind, std::string(name), std::string(caption));
@@ -129,8 +129,8 @@ void controllerPage(Window& window, Layout& layout) {
     kind.area(ControlKind::OptionButton, "rbCtrlOpt", "Cam", OptionWidth, OptionHeight, 1);
     kind.area(ControlKind::OptionButton, "rbCtrlOpt", "Chopper", OptionWidth, OptionHeight, 2);
     layout.nextColumn();
-    auto& repeated = layout.panel("pnlMotorID2", "Motor", CaptionCharacters)
-                         .field(Field{"tbMotorID2", "Motor ID", "", text(), "", nullptr, ""});
+    auto& repeated =
+        layout.panel("pnlMotorID2", "Motor ID").area(ControlKind::TextBox, "tbMotorID2", "", IdentityWidth, IdentityHeight);
     repeated.text().locked = true;
     repeated.tabStop = false;
     layout.nextBand();
@@ -199,7 +199,6 @@ void buildTrainControls(Window& window) {
     nest(window.control("pnlLosses"), window.control("SSPanel11"));
     addCamPanel(window, strip);
     widen(window.control("tbMotorID"));
-    widen(window.control("tbMotorID2"));
     stack.button("cmdOkay", "OK");
     stack.button("cmdCancel", "Cancel");
     stack.button("cmdHelp", "Help");
