@@ -133,6 +133,9 @@ void controllerPage(Window& window, Layout& layout) {
         layout.panel("pnlMotorID2", "Motor ID").area(ControlKind::TextBox, "tbMotorID2", "", IdentityWidth, IdentityHeight);
     repeated.text().locked = true;
     repeated.tabStop = false;
+    LayoutPanel cam(window, "pnlCam", "Cam", CaptionOnOneLine);
+    addElementRows(window, cam, "tbController", 0, 4);
+    cam.place(0, 0, cam.width());
     layout.nextBand();
     auto& chopper = layout.panel("pnlChopper", "Chopper", CaptionCharacters);
     chopper.field(Field{"cbFlyWheel", "Onboard Flywheel", "", checkBox(), "", nullptr, ""});
@@ -159,13 +162,10 @@ void nest(Control& inner, Control& outer) {
 }
 
 /// The panel of the cam controller stands where that of the chopper does: a train has one of the two.
-void addCamPanel(Window& window, Control& strip) {
-    LayoutPanel panel(window, "pnlCam", "Cam", CaptionOnOneLine);
-    addElementRows(window, panel, "tbController", 0, 4);
-    const auto& chopper = window.control("pnlChopper");
-    panel.place(chopper.bounds.left.value, chopper.bounds.top.value, panel.width());
-    panel.frame().strip = &strip;
-    panel.frame().page = chopper.page;
+void placeCamPanel(Window& window) {
+    auto& cam = window.control("pnlCam").bounds;
+    cam.left = window.control("pnlChopper").bounds.left;
+    cam.top = window.control("pnlChopper").bounds.top;
 }
 
 /// An identification takes 36 characters.
@@ -197,7 +197,7 @@ void buildTrainControls(Window& window) {
     stack.pages(strip, pages);
     nest(window.control("pnlLineCurrent"), window.control("pnlChopper"));
     nest(window.control("pnlLosses"), window.control("SSPanel11"));
-    addCamPanel(window, strip);
+    placeCamPanel(window);
     widen(window.control("tbMotorID"));
     stack.button("cmdOkay", "OK");
     stack.button("cmdCancel", "Cancel");
