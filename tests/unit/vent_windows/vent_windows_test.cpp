@@ -48,7 +48,7 @@ protected:
 TEST_F(VentWindows, EachAerodynamicTypeHasItsDiagramBesideTheProgram) {
     addNode(0, 3);
     addNode(0, 1);
-    for (const std::int16_t type : {1, 2, 3, 4, 5, 7}) {
+    for (const std::int16_t type : std::array<std::int16_t, 6>{1, 2, 3, 4, 5, 7}) {
         addNode(type, 1);
     }
     auto& window = open("NodeDtl");
