@@ -85,11 +85,11 @@ void SegmentGeneral::wireType(const Field& field) {
         type_.items().addItem(item);
     }
     bindHint(editing_.app, type_, field.hint);
-    // What is typed is no entry of the list; an entry that was chosen has its own text.
+    // What is typed is no entry of the list, even where it reads like one; an entry that was chosen has its own text.
     type_.on.change = [this] {
-        auto& items = type_.items();
-        if (items.index() >= 0 && items.item(items.index()) != type_.text().text) {
-            items.setIndex(-1);
+        const int chosen = type_.items().index();
+        if (chosen >= 0 && type_.items().item(chosen) != type_.text().text) {
+            type_.items().setIndex(-1);
         }
     };
     type_.on.lostFocus = [this] {
