@@ -5,6 +5,7 @@
 #include "platform/qt/look.hpp"
 #include "platform/qt/renderer.hpp"
 #include "platform/qt/text_codec.hpp"
+#include "quiet.hpp"
 
 #include <QApplication>
 #include <QDir>
@@ -184,6 +185,7 @@ int drawInProcesses(const QString& folder) {
 } // namespace
 
 int main(int argc, char** argv) {
+    kov::screen::hideOffscreenRemarks();
     QApplication application(argc, argv);
     const auto words = application.arguments();
     if (words.size() == 2) {

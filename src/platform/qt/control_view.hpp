@@ -3,7 +3,6 @@
 #include "platform/desk.hpp"
 
 #include <QColor>
-#include <QElapsedTimer>
 #include <QFont>
 #include <QPoint>
 #include <QPointer>
@@ -23,10 +22,8 @@ struct Ground {
     Desk& desk;
     bool syncing = false; ///< the widgets are being set from the state: what they report is no person's doing
     int acting = 0;       ///< acts under way; the focus moves of the toolkit inside them are only their consequence
-    /// The window that we have asked the window system to bring to the front: until it is there, what it tells of others is
-    /// old.
-    const Window* awaited = nullptr;
-    QElapsedTimer awaiting{}; ///< a window system that refuses is not waited for
+    /// The window system has put one of our windows in front.
+    std::function<void()> activated{};
 
     /// Carries out a person's act; a failure inside ends the program and never crosses the toolkit.
     void act(const std::function<void()>& action) {

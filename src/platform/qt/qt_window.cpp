@@ -14,8 +14,6 @@
 namespace kov::qt {
 namespace {
 
-constexpr int ActivationMilliseconds = 2000;
-
 /// Later ones lie above earlier ones; a box over a grid lies on top.
 int layer(ControlKind kind) {
     switch (kind) {
@@ -251,13 +249,6 @@ void QtWindow::abandon() {
 // From the person to the desk.
 
 void QtWindow::person() {
-    // Another window of ours came to the front by the window system.
-    if (ground_->awaited == window_ || ground_->awaiting.hasExpired(ActivationMilliseconds)) {
-        ground_->awaited = nullptr;
-    }
-    if (ground_->awaited != nullptr) {
-        return;
-    }
     if (window_ == nullptr || ground_->syncing || ground_->acting > 0 || ground_->desk.front() == window_) {
         return;
     }
@@ -276,8 +267,8 @@ void QtWindow::person() {
 }
 
 bool QtWindow::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) {
-        person();
+    if (event->type() == QEvent::WindowActivate && ground_->activated) {
+        ground_->activated();
     }
     return QWidget::event(event);
 }
@@ -289,9 +280,6 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
     }
     auto& view = *found->second;
     auto& control = view.control();
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) {
-        ground_->awaited = nullptr; // whoever gets keys and the mouse is in front
-    }
     switch (event->type()) {
     case QEvent::KeyPress:
         return !view.open() && keyPressed(view, static_cast<QKeyEvent&>(*event));
@@ -300,8 +288,10 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
         return watched != &view.surface() && watched != &view.target() ? false
                                                                        : view.pressed(static_cast<QMouseEvent&>(*event));
     case QEvent::FocusIn:
-        // Assistive tools move the focus by the toolkit.
-        if (!ground_->syncing && ground_->acting == 0 && ground_->desk.focus() != &control) {
+        // Assistive tools move the focus by the toolkit. What comes along with a window to the front is heard of when it rests
+        // there.
+        if (static_cast<QFocusEvent&>(*event).reason() != Qt::ActiveWindowFocusReason && !ground_->syncing &&
+            ground_->acting == 0 && ground_->desk.focus() != &control) {
             ground_->act([&] { ground_->desk.focusOn(control); });
         }
         return false;

@@ -27,6 +27,8 @@ public:
     void sync();
     /// The desk's window is gone; nothing of it is touched any more.
     void abandon();
+    /// A person has brought it to the front by the window system.
+    void person();
     /// The focus goes to that control's widget.
     void focus(const Control& control);
     [[nodiscard]] Window* window() const { return window_; }
@@ -49,7 +51,6 @@ private:
     void syncPopup();
     void syncTimers();
     void arrange();
-    void person();
     [[nodiscard]] int extraHeight() const;
     [[nodiscard]] QPoint shiftOf(const Control& control) const;
     [[nodiscard]] bool keyPressed(ControlView& view, const QKeyEvent& event);
