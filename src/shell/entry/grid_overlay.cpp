@@ -247,10 +247,10 @@ void GridOverlay::commit() {
 }
 
 void GridOverlay::goRight(int row, int col) {
-    wentRight_ = dummy_ != nullptr && app_.desk.focus() == dummy_;
     if (col >= grid().cols() - 1) {
         return;
     }
+    wentRight_ = dummy_ != nullptr && app_.desk.focus() == dummy_;
     if (!rules_.opensOnSelect) {
         app_.desk.moveCell(grid_, row, col + 1);
         return;
