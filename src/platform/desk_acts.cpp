@@ -77,6 +77,7 @@ void Desk::moveCell(Control& control, int row, int col) {
     grid.setRow(row);
     grid.setCol(col);
     grid.select({row, row, col, col});
+    revealCurrentRow(control);
     if (moved) {
         raise(control.on.cellChange);
     }

@@ -315,6 +315,23 @@ TEST_F(OtherRules, MayInsertAndDeleteRowsInTheirOwnWay) {
     EXPECT_EQ(place.cells().rows(), 2);
 }
 
+TEST(AWalkBelowTheRowsInSight, ScrollsTheGridSoThatTheOverlayStaysInIt) {
+    test::OverlayWindow place;
+    place.grid->bounds = {Twips{}, Twips{}, Twips{4000}, Twips{930}};
+    place.cells().setRows(10);
+    place.desk.cell(*place.grid, 0, 0);
+    for (int row = 1; row < 10; ++row) {
+        place.desk.key(Key::Down);
+        EXPECT_EQ(place.under(), std::to_string(row) + ",0");
+        EXPECT_LE(place.box->bounds.top.value + place.box->bounds.height.value, 930);
+    }
+    for (int row = 8; row >= 0; --row) {
+        place.desk.key(Key::Up);
+        EXPECT_GE(place.box->bounds.top.value, 0);
+    }
+    EXPECT_EQ(place.cells().topRow(), 0);
+}
+
 TEST(ADropDownOverACell, KeepsItsHeight) {
     test::OverlayWindow place;
     auto& list = place.window->add(ControlKind::Combo, "list");
