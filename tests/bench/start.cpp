@@ -28,7 +28,7 @@ struct Starts {
     QStringList arguments;
     std::vector<Start> all;
 
-    [[nodiscard]] double median(double Start::* part) const {
+    [[nodiscard]] double median(double Start::*part) const {
         std::vector<double> values;
         for (const auto& start : all) {
             values.push_back(start.*part);
@@ -43,7 +43,8 @@ struct Starts {
 std::optional<Start> startOnce(const Starts& what, const QProcessEnvironment& environment) {
     QProcess process;
     process.setProcessEnvironment(environment);
-    const auto begin = std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch());
+    const auto begin =
+        std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch());
     process.start(what.program, what.arguments);
     if (!process.waitForFinished(StartLimit)) {
         process.kill();

@@ -47,6 +47,7 @@ void ControlView::syncFont() {
     if (control_->fontSize > 0) {
         font.setPointSize(control_->fontSize);
     }
+    font.setStretch(widget_->font().stretch()); // set by the view where a text is narrowed
     if (font != widget_->font()) {
         widget_->setFont(font);
     }
@@ -74,15 +75,14 @@ void ControlView::syncColour() {
 }
 
 void ControlView::sync(const QPoint& shift) {
-    const auto place = pixels(control_->bounds).translated(shift);
-    if (place != widget_->geometry()) {
-        widget_->setGeometry(place);
-    }
     const auto name = toQt(plainCaption(control_->caption));
     if (name != target().accessibleName()) {
         target().setAccessibleName(name);
     }
     syncFont();
+    if (const auto place = placeOf(pixels(control_->bounds).translated(shift)); place != widget_->geometry()) {
+        widget_->setGeometry(place);
+    }
     syncColour();
     widget_->setEnabled(control_->enabled);
     syncContent();

@@ -62,6 +62,8 @@ public:
 protected:
     void setWidget(QWidget* widget);
     virtual void syncContent() {}
+    /// Where the widget lies, when that is another place than the control's own.
+    [[nodiscard]] virtual QRect placeOf(const QRect& own) { return own; }
     [[nodiscard]] Ground& ground() const { return *ground_; }
     [[nodiscard]] Desk& desk() const { return ground_->desk; }
     void act(const std::function<void()>& action) const { ground_->act(action); }

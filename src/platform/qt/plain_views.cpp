@@ -22,13 +22,48 @@ public:
 
 private:
     void syncContent() override {
-        const auto text = toQt(plainCaption(control().caption)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-        if (text != label_->text()) {
+        if (const auto text = shownText(); text != label_->text()) {
             label_->setText(text);
         }
         label_->setAlignment((control().alignRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-        label_->setWordWrap(label_->height() >= 2 * label_->fontMetrics().height());
+        label_->setWordWrap(wraps(label_->height()));
     }
+    /// A text of one line that is wider than its place takes the free room beside it, and is set a little narrower when that
+    /// isn't enough: a unit or a caption is never cut.
+    [[nodiscard]] QRect placeOf(const QRect& own) override {
+        if (wraps(own.height())) {
+            return own;
+        }
+        const auto* parent = label_->parentWidget();
+        const int missing = std::max(needed(Plain) - own.width(), 0);
+        const int room = control().alignRight ? own.left() - Edge : parent->width() - Edge - own.right();
+        const int taken = std::min(std::max(room, 0), missing);
+        const auto place = own.adjusted(control().alignRight ? -taken : 0, 0, control().alignRight ? 0 : taken, 0);
+        narrow(place.width());
+        return place;
+    }
+    void narrow(int width) {
+        for (const int stretch : {Plain, 95, 90, 85, Narrowest}) {
+            auto font = label_->font();
+            font.setStretch(stretch);
+            if (needed(stretch) <= width || stretch == Narrowest) {
+                if (font != label_->font()) {
+                    label_->setFont(font);
+                }
+                return;
+            }
+        }
+    }
+    [[nodiscard]] int needed(int stretch) const {
+        auto font = label_->font();
+        font.setStretch(stretch);
+        return QFontMetrics(font).horizontalAdvance(shownText()) + 1;
+    }
+    [[nodiscard]] bool wraps(int height) const { return height >= 2 * label_->fontMetrics().height(); }
+    [[nodiscard]] QString shownText() const {
+        return toQt(plainCaption(control().caption)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    }
+    static constexpr int Edge = 2, Plain = QFont::Unstretched, Narrowest = 80;
     QLabel* label_;
 };
 

@@ -353,12 +353,16 @@ void QtWindow::resizeEvent(QResizeEvent* event) {
 
 void QtWindow::moveEvent(QMoveEvent* event) {
     QWidget::moveEvent(event);
-    if (window_ == nullptr || ground_->syncing || !placed_ || isMinimized() || !isVisible()) {
+    // While it is an icon, and when it becomes one, the window system moves it as it likes.
+    if (window_ == nullptr || ground_->syncing || !placed_ || isMinimized() || window_->minimized || !isVisible()) {
         return;
     }
     auto& bounds = window_->bounds;
-    if (pos().x() != pixels(bounds.left) || pos().y() != pixels(bounds.top)) {
+    // A place that is the same pixel keeps its fraction.
+    if (pos().x() != pixels(bounds.left)) {
         bounds.left = applied_.left = Twips::ofPixels(pos().x());
+    }
+    if (pos().y() != pixels(bounds.top)) {
         bounds.top = applied_.top = Twips::ofPixels(pos().y());
     }
 }

@@ -68,11 +68,13 @@ void LineEditMirror::sync() {
     const int start = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
     if (ground_->desk.focus() != control_) {
         edit_->deselect();
+        edit_->home(false); // a long text shows its beginning
     } else if (start != box.selStart || edit_->selectionLength() != box.selLength) {
         edit_->deselect();
         edit_->setCursorPosition(box.selStart);
         if (box.selLength > 0) {
-            edit_->setSelection(box.selStart, box.selLength);
+            // From its end, so that the beginning of a long text is in sight.
+            edit_->setSelection(box.selStart + box.selLength, -box.selLength);
         }
     }
     if (edit_->isReadOnly() != box.locked) {
