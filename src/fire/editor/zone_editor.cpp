@@ -21,7 +21,7 @@ constexpr std::array Fields{
           "Form 11, columns 51-60"},
 };
 
-constexpr EntryWindowTraits Traits{"Environmental Control Zones", "Form 11", 1320, {}, {}};
+constexpr EntryWindowTraits Traits{"Environmental Control Zones", "Form 11", 1360, {}, {}};
 constexpr int Controlled = 1, VentShafts = 3, WarningStyle = 48;
 
 bool anySelected(const ItemList& list) {

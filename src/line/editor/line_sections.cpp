@@ -11,7 +11,7 @@ namespace kov {
 namespace {
 
 constexpr int IdColumn = 0, StartColumn = 1, StopColumn = 2, CountColumn = 3, AirColumn = 4;
-constexpr int HelpContextNumber = 110;
+constexpr int HelpContextNumber = 1200;
 constexpr EntryWindowTraits Traits{"Line Sections", "Form 2A", HelpContextNumber, Twips{8400}, Twips{6300}};
 
 constexpr std::array Columns{

@@ -25,10 +25,11 @@ constexpr std::array Columns{
     Column{"Remaining Dwell", "sec", real(-1, 900),
            "Remaining Dwell time (for stopped trains): 0 to 900 seconds.  -1 to prevent movement.", "Form 10, columns 61-70"},
     Column{"Coast", "", integer(0, 1),
-           "Enter 1 if the train is coasting at the beginning of the simulation;  0 if not coasting.", "Form 10, columns 71-80"},
+           "Enter 1 if the train is coasting at the beginning of the simulation;  0 if not coasting.",
+           "Form 10, columns 71-80"},
 };
 
-constexpr EntryWindowTraits Traits{"Train Initialization", "Form 10", 1430, {}, {}};
+constexpr EntryWindowTraits Traits{"Train Initialization", "Form 10", 1590, {}, {}};
 constexpr std::string_view NewRow = "\t0.\t1\t1\t0.\t0.\t0\t0";
 constexpr int VisibleRows = 15;
 

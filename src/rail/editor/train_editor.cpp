@@ -7,7 +7,7 @@
 namespace kov {
 namespace {
 
-constexpr EntryWindowTraits Traits{"Train Data", "Form 9", 1420, {}, {}};
+constexpr EntryWindowTraits Traits{"Train Data", "Form 9", 1500, {}, {}};
 constexpr int QuestionStyle = 36, WarningStyle = 48, CamButton = 1, ChopperButton = 2;
 
 } // namespace
@@ -33,7 +33,8 @@ TrainEditor::TrainEditor(Application& app, Window& window) : app_(app), window_(
 void TrainEditor::bindFields() {
     auto& strip = window_.control("SSTab1");
     for (const auto& entry : trainFields()) {
-        auto& control = entry.index < 0 ? window_.control(entry.field.control) : window_.control(entry.field.control, entry.index);
+        auto& control =
+            entry.index < 0 ? window_.control(entry.field.control) : window_.control(entry.field.control, entry.index);
         std::function<void()> accepted = [this] { redraw(); };
         if (entry.field.control == "tbMotorID") {
             accepted = [this] { show("tbMotorID2", box("tbMotorID")); };
