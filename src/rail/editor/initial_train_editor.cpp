@@ -38,14 +38,14 @@ constexpr int VisibleRows = 15;
 std::span<const Column> InitialTrainEditor::columns() { return Columns; }
 
 InitialTrainEditor::InitialTrainEditor(Application& app, Window& window)
-    : app_(app), window_(window), entry_(app, window, Traits) {
+    : app_(app), window_(window), data_(app.DataSet), entry_(app, window, Traits) {
     build();
     bindGrid();
     window_.control("cmdOkay").on.click = [this] { app_.desk.unload(window_); };
     entry_.bindStandardControls();
     entry_.assign = [this] { save(); };
     entry_.loadStep();
-    app_.DataSet->InitTrains.TrainList(grid());
+    data_->InitTrains.TrainList(grid());
 }
 
 void InitialTrainEditor::build() {
@@ -93,7 +93,7 @@ void InitialTrainEditor::onCut() {
 }
 
 void InitialTrainEditor::save() {
-    auto& trains = app_.DataSet->InitTrains;
+    auto& trains = data_->InitTrains;
     trains.Clear();
     for (int row = 0; row < grid().rows(); ++row) {
         const auto cell = [&](int col) { return std::string_view(grid().text(row, col)); };

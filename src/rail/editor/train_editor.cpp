@@ -1,6 +1,7 @@
 #include "rail/editor/train_editor.hpp"
 
 #include "core/cards/numbers.hpp"
+#include "shell/entry/scale_form.hpp"
 
 #include <string>
 
@@ -12,11 +13,16 @@ constexpr int QuestionStyle = 36, WarningStyle = 48, CamButton = 1, ChopperButto
 
 } // namespace
 
-TrainEditor::TrainEditor(Application& app, Window& window) : app_(app), window_(window), entry_(app, window, Traits) {
+TrainEditor::TrainEditor(Application& app, Window& window)
+    : app_(app), window_(window), data_(app.DataSet), entry_(app, window, Traits) {
     buildTrainControls(window_);
     bindFields();
     bindCommands();
     entry_.bindStandardControls();
+    window_.on.resize = [this] {
+        ScaleForm(app_, window_);
+        redraw();
+    };
     window_.on.queryUnload = [this](bool& cancel) {
         cancel = entry_.flags.FormChanged && !entry_.flags.Cancelled && !SaveTrain();
     };
