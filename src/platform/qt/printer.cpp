@@ -3,6 +3,7 @@
 #include "platform/qt/text_codec.hpp"
 
 #include <QFontMetricsF>
+#include <QPageLayout>
 #include <QPainter>
 #include <QPrinter>
 
@@ -12,7 +13,7 @@
 namespace kov::qt {
 namespace {
 
-constexpr double TwipsPerInch = 1440;
+constexpr double TwipsPerInch = 1440, Margin = 0.25;
 
 } // namespace
 
@@ -24,6 +25,8 @@ struct QtPrinter::Parts {
     QPrinter& device() {
         if (!printer) {
             printer.emplace(QPrinter::HighResolution);
+            // A printed card file is 91 columns wide and begins at the seventh: little margin is wanted.
+            printer->setPageMargins(QMarginsF(Margin, Margin, Margin, Margin), QPageLayout::Inch);
         }
         return *printer;
     }
@@ -51,7 +54,11 @@ void QtPrinter::begin(const std::string& documentName) {
 }
 
 void QtPrinter::setFont(const std::string& name, double points, bool bold) {
-    parts_->font = QFont(toQt(name));
+    // A zero character ends a font's name. Liberation Mono has the widths of Courier New, and stands in where that is missing.
+    parts_->font = QFont(toQt(name.substr(0, name.find('\0'))));
+    auto families = parts_->font.families();
+    families << QStringLiteral("Liberation Mono") << QStringLiteral("Cousine") << QStringLiteral("Nimbus Mono PS");
+    parts_->font.setFamilies(families);
     parts_->font.setStyleHint(QFont::TypeWriter);
     parts_->font.setPointSizeF(points);
     parts_->font.setBold(bold);
