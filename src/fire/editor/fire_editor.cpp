@@ -11,7 +11,7 @@ namespace kov {
 namespace {
 
 constexpr std::array Fields{
-    Field{"tbEffEmm", "Effective Emmissivity", "", real(0, 1), "Effective Emissivity of Combustion Products: 0. - 1.0",
+    Field{"tbEffEmm", "Effective Emmissivity", "", real(0, 1), "Effective Emmissivity of Combustion Products: 0. - 1.0",
           &KOVDataSet::EECPG, "Form 1G, columns 71-80"},
 };
 

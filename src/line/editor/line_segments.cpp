@@ -24,8 +24,8 @@ constexpr std::array Columns{
 };
 
 Control& buildList(Window& window) {
-    buildSegmentControls(window, {SegmentGeneral::fields(), SegmentEnvironment::fields(), Columns,
-                                  SegmentGrids::subsegmentColumns(), SegmentGrids::heatSourceColumns()});
+    buildSegmentControls(window, {SegmentGeneral::fields(), SegmentEnvironment::fields(), SegmentGrids::subsegmentColumns(),
+                                  SegmentGrids::heatSourceColumns()});
     return window.control("grdLSeg");
 }
 

@@ -14,8 +14,8 @@ constexpr std::array<std::string_view, 7> Tabs{"&General",    "Heat &Load", "&Re
                                                "&Controller", "&Acc/Decel", "&FlyWheel"};
 constexpr int CaptionCharacters = 20, CaptionOnOneLine = 40;
 constexpr std::string_view RoomOfSpeed = "0000000000";
-constexpr double Margin = 105, InnerTop = 330, IdentityWidth = 3500, OptionWidth = 2000, OptionHeight = 285, ChartWidth = 3000,
-                 ChartHeight = 1500;
+constexpr double Margin = 105, InnerTop = 330, IdentityWidth = 3500, IdentityHeight = 315, OptionWidth = 2000,
+                 OptionHeight = 285, ChartWidth = 3000, ChartHeight = 1500;
 
 Control& add(Window& window, ControlKind kind, std::string_view name, std::string_view caption = {}) {
     return window.add(kind, std::string(name), std::string(caption));
@@ -129,10 +129,13 @@ void controllerPage(Window& window, Layout& layout) {
     kind.area(ControlKind::OptionButton, "rbCtrlOpt", "Cam", OptionWidth, OptionHeight, 1);
     kind.area(ControlKind::OptionButton, "rbCtrlOpt", "Chopper", OptionWidth, OptionHeight, 2);
     layout.nextColumn();
-    auto& repeated = layout.panel("pnlMotorID2", "Motor", CaptionCharacters)
-                         .field(Field{"tbMotorID2", "Motor ID", "", text(), "", nullptr, ""});
+    auto& repeated =
+        layout.panel("pnlMotorID2", "Motor ID").area(ControlKind::TextBox, "tbMotorID2", "", IdentityWidth, IdentityHeight);
     repeated.text().locked = true;
     repeated.tabStop = false;
+    LayoutPanel cam(window, "pnlCam", "Cam", CaptionOnOneLine);
+    addElementRows(window, cam, "tbController", 0, 4);
+    cam.place(0, 0, cam.width());
     layout.nextBand();
     auto& chopper = layout.panel("pnlChopper", "Chopper", CaptionCharacters);
     chopper.field(Field{"cbFlyWheel", "Onboard Flywheel", "", checkBox(), "", nullptr, ""});
@@ -159,13 +162,10 @@ void nest(Control& inner, Control& outer) {
 }
 
 /// The panel of the cam controller stands where that of the chopper does: a train has one of the two.
-void addCamPanel(Window& window, Control& strip) {
-    LayoutPanel panel(window, "pnlCam", "Cam", CaptionOnOneLine);
-    addElementRows(window, panel, "tbController", 0, 4);
-    const auto& chopper = window.control("pnlChopper");
-    panel.place(chopper.bounds.left.value, chopper.bounds.top.value, panel.width());
-    panel.frame().strip = &strip;
-    panel.frame().page = chopper.page;
+void placeCamPanel(Window& window) {
+    auto& cam = window.control("pnlCam").bounds;
+    cam.left = window.control("pnlChopper").bounds.left;
+    cam.top = window.control("pnlChopper").bounds.top;
 }
 
 /// An identification takes 36 characters.
@@ -197,9 +197,8 @@ void buildTrainControls(Window& window) {
     stack.pages(strip, pages);
     nest(window.control("pnlLineCurrent"), window.control("pnlChopper"));
     nest(window.control("pnlLosses"), window.control("SSPanel11"));
-    addCamPanel(window, strip);
+    placeCamPanel(window);
     widen(window.control("tbMotorID"));
-    widen(window.control("tbMotorID2"));
     stack.button("cmdOkay", "OK");
     stack.button("cmdCancel", "Cancel");
     stack.button("cmdHelp", "Help");
