@@ -54,7 +54,8 @@ protected:
         made->pageHeight = printer.pageHeight().value;
         made->margin = printer.device().pageLayout().margins(QPageLayout::Inch).left();
         made->top = printer.device().pageLayout().margins(QPageLayout::Inch).top();
-        made->text = output(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
+        made->text = output(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-fixed"),
+                                                          QStringLiteral("6"), path, QStringLiteral("-")});
         made->fonts = output(QStringLiteral("pdffonts"), {path});
         output(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QString::number(Dpi), QStringLiteral("-gray"),
                                             QStringLiteral("-png"), path, made->folder.filePath(QStringLiteral("page"))});
@@ -117,7 +118,7 @@ struct Stroke {
 };
 
 std::vector<Stroke> strokesOf(const QImage& image) {
-    constexpr int Dark = 128;
+    constexpr int Dark = 200;
     std::vector<Stroke> found;
     for (int y = 0; y < image.height(); ++y) {
         int from = -1;

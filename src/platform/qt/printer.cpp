@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPainter>
+#include <QPen>
 #include <QPrinter>
 
 #include <optional>
@@ -14,6 +15,7 @@ namespace kov::qt {
 namespace {
 
 constexpr double TwipsPerInch = 1440, Margin = 0.25;
+constexpr Twips RuleWidth{10}; // half a point: a single dot of a printer can hardly be seen
 
 } // namespace
 
@@ -80,6 +82,7 @@ void QtPrinter::print(Twips x, Twips y, const std::string& text) {
 }
 
 void QtPrinter::line(Twips x1, Twips y1, Twips x2, Twips y2) {
+    parts_->painter.setPen(QPen(Qt::black, parts_->dots(RuleWidth)));
     parts_->painter.drawLine(QPointF(parts_->dots(x1), parts_->dots(y1)), QPointF(parts_->dots(x2), parts_->dots(y2)));
 }
 

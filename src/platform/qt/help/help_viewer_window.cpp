@@ -71,9 +71,9 @@ QWidget* HelpViewerWindow::makeIndex() {
     column->addWidget(index);
     connect(keyword_, &QLineEdit::textChanged, index, [index](const QString& text) { index->filterIndices(text, {}); });
     connect(keyword_, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
-    connect(index, &QHelpIndexWidget::documentActivated, this, [this](const QHelpLink& page) { showPage(page.url); });
+    connect(index, &QHelpIndexWidget::documentActivated, this, [this](const QHelpLink& link) { showPage(link.url); });
     connect(index, &QHelpIndexWidget::documentsActivated, this,
-            [this](const QList<QHelpLink>& pages) { showPage(pages.constFirst().url); });
+            [this](const QList<QHelpLink>& links) { showPage(links.constFirst().url); });
     connect(index, &QListView::clicked, index, &QHelpIndexWidget::activateCurrentItem);
     return page;
 }
