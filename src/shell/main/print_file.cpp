@@ -30,7 +30,7 @@ public:
     void closeLastPage();
 
 private:
-    void setFont(std::string name) { printer_.setFont(std::move(name), FontPoints, false); }
+    void setFont(const std::string& name) { printer_.setFont(name, FontPoints, false); }
     void printAt(double tab, const std::string& text) { printer_.print(columnWidth_ * (tab - 1), y_, text); }
     void skip(double lines) { y_ = y_ + LineHeight_ * lines; }
     void rule() { printer_.line(LeftMargin_, y_, LeftMargin_ + HeaderWidth_, y_); }

@@ -105,6 +105,13 @@ TEST(AWindowsPage, ShowsUnitRangeHintAndColumnsOfEachField) {
         << page;
 }
 
+TEST(AWindowsPage, NamesEachOfTheFourPercentagesOfTheBlock) {
+    const auto page = topicPage(topicNamed("General"), "");
+    EXPECT_NE(page.find("<a name=\"tbEFASux\"></a><b>Stopped Train, Propulsion and Braking</b></td><td>%</td>"),
+              std::string::npos)
+        << page;
+}
+
 TEST(AWindowsPage, ShowsTheColumnsOfItsGrid) {
     const auto page = topicPage(topicNamed("SimCtrl"), "");
     EXPECT_NE(page.find("<a name=\"grdPGroup.0\"></a><b># Intervals</b></td><td>&nbsp;</td><td>whole number, -1 to 1000</td>"),

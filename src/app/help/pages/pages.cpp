@@ -120,7 +120,7 @@ std::string topicPage(const HelpTopic& topic, std::string_view introduction) {
 std::string guidePage(const GuidePage& guidePage, std::string_view body) { return page(guidePage.title, body); }
 
 std::string styleSheet() {
-    return "body { margin: 12px; }\nh1 { font-size: x-large; }\nh2 { font-size: large; margin-top: 18px; }\n"
+    return "h1 { font-size: x-large; }\nh2 { font-size: large; margin-top: 18px; }\n"
            "p, li { line-height: 130%; }\ntable { border-collapse: collapse; margin-top: 6px; }\n"
            "th { text-align: left; }\n";
 }

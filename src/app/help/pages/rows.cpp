@@ -72,6 +72,14 @@ HelpTable gridTable(std::string_view title, std::string_view grid, std::span<con
     return table;
 }
 
+void nameRow(HelpTable& table, std::string_view control, std::string_view caption) {
+    for (auto& row : table.rows) {
+        if (row.anchors.front() == control) {
+            row.caption = caption;
+        }
+    }
+}
+
 void describeList(HelpTable& table, std::string_view control, std::span<const std::string_view> entries) {
     for (auto& row : table.rows) {
         if (row.anchors.front() == control) {

@@ -18,6 +18,8 @@ namespace kov::help {
 [[nodiscard]] HelpTable fieldTable(std::span<const Field> fields, std::string_view title = "Fields");
 /// The columns of a grid; `grid` is its name for anchors.
 [[nodiscard]] HelpTable gridTable(std::string_view title, std::string_view grid, std::span<const Column> columns);
+/// Another name for a row whose caption says too little by itself.
+void nameRow(HelpTable& table, std::string_view control, std::string_view caption);
 /// In place of the range, the entries of a drop-down list.
 void describeList(HelpTable& table, std::string_view control, std::span<const std::string_view> entries);
 

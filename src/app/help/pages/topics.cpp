@@ -34,6 +34,16 @@ constexpr std::array Guide{
     GuidePage{"running", "Running a simulation"}, GuidePage{"printing", "Printing"},
 };
 
+/// The four percentages stand in a block under and beside headings; on a page each needs a name of its own.
+HelpTopic generalTopic() {
+    auto table = fieldTable(General::fields());
+    nameRow(table, "tbEFMux", "Moving Train, Auxiliaries and Passengers");
+    nameRow(table, "tbEFSux", "Stopped Train, Auxiliaries and Passengers");
+    nameRow(table, "tbEFAMux", "Moving Train, Propulsion and Braking");
+    nameRow(table, "tbEFASux", "Stopped Train, Propulsion and Braking");
+    return {"General", "General Data", {1110}, {table}};
+}
+
 HelpTopic optionsTopic() {
     auto table = fieldTable(Options::fields());
     for (const auto& list : Options::lists()) {
@@ -65,7 +75,7 @@ HelpTopic trainTopic() {
         topic.tables.push_back({title, "", {}});
     }
     for (const auto& entry : TrainEditor::fields()) {
-        auto& rows = topic.tables.at(static_cast<std::size_t>(entry.page + 1)).rows;
+        auto& rows = topic.tables.at(static_cast<std::size_t>(entry.page) + 1).rows;
         auto row = rowOf(entry.field);
         // Boxes of one array that are alike (the rows of a curve, the two resistor grids) are told once.
         const auto same = [&](const HelpRow& other) { return other.caption == row.caption && other.hint == row.hint; };
@@ -94,7 +104,7 @@ HelpTopic segmentTopic() {
 std::vector<HelpTopic> allTopics() {
     return {
         {"frmMain", "The main window", {}, {fieldTable(MainFields)}},
-        {"General", "General Data", {1110}, {fieldTable(General::fields())}},
+        generalTopic(),
         optionsTopic(),
         {"SimCtrl",
          "Simulation Control",

@@ -3,10 +3,16 @@
 #include <QDesktopServices>
 
 namespace kov::qt {
+namespace {
+
+constexpr double Margin = 14;
+
+} // namespace
 
 HelpBrowser::HelpBrowser(QHelpEngine& engine, QWidget* parent) : QTextBrowser(parent), engine_(engine) {
     setObjectName(QStringLiteral("HelpPage"));
     setAccessibleName(tr("Help page"));
+    document()->setDocumentMargin(Margin);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
