@@ -25,10 +25,17 @@ std::string rescued(KOVDataSet& data) {
     return writer.take();
 }
 
+std::shared_ptr<cPGroup> printGroup() {
+    auto group = std::make_shared<cPGroup>();
+    group->setPGroup(
+        {.NIntervals = 4, .IntLength = "30.", .AbbrevRatio = 1, .SummaryOpt = 2, .AeroCycles = 1, .ThermoCycles = 1});
+    return group;
+}
+
 void fillPrintGroups(KOVDataSet& data) {
     data.ClrPGroup();
     for (int i = 0; i < KOVDataSet::MostPGroups; ++i) {
-        data.AddPGroup(std::make_shared<cPGroup>());
+        data.AddPGroup(printGroup());
     }
 }
 
@@ -43,7 +50,7 @@ TEST(ARescueCopy, HoldsThe25PrintGroupsThatFitAndForm13AfterA26thFailed) {
     Reading reading(makeDeck(randomPlan(2, Hand::Tidy)).text());
     fillPrintGroups(reading.data);
     const auto expected = written(reading.data);
-    EXPECT_THROW(reading.data.AddPGroup(std::make_shared<cPGroup>()), Failure);
+    EXPECT_THROW(reading.data.AddPGroup(printGroup()), Failure);
     EXPECT_THROW(static_cast<void>(written(reading.data)), Failure) << "a save can't go on behind the missing group";
     const auto copy = rescued(reading.data);
     EXPECT_EQ(firstDifference(expected, copy), "");
