@@ -44,7 +44,8 @@ std::string cell(std::string_view text) { return "<td>" + (text.empty() ? "&nbsp
 std::string anchorHtml(std::string_view name) { return "<a name=\"" + escaped(name) + "\"></a>"; }
 
 std::string rowHtml(const HelpRow& row) {
-    const auto name = row.caption.empty() ? row.hint : row.caption;
+    // A box beside another has no caption of its own: its hint names it, up to the range.
+    const auto name = row.caption.empty() ? row.hint.substr(0, row.hint.find(':')) : row.caption;
     std::string html = "<tr><td>";
     for (const auto& anchor : row.anchors) {
         html += anchorHtml(anchor);

@@ -44,6 +44,15 @@ HelpTopic generalTopic() {
     return {"General", "General Data", {1110}, {table}};
 }
 
+HelpTopic zonesTopic() {
+    auto table = fieldTable(ZoneEditor::fields());
+    nameRow(table, "tbAMDB", "Morning Rush Hour, Dry-bulb");
+    nameRow(table, "tbAMWB", "Morning Rush Hour, Wet-bulb");
+    nameRow(table, "tbPMDB", "Evening Rush Hour, Dry-bulb");
+    nameRow(table, "tbPMWB", "Evening Rush Hour, Wet-bulb");
+    return {"ECZones", "Environmental Control Zones", {1360}, {table}};
+}
+
 HelpTopic optionsTopic() {
     auto table = fieldTable(Options::fields());
     for (const auto& list : Options::lists()) {
@@ -129,7 +138,7 @@ std::vector<HelpTopic> allTopics() {
          "Fire Data",
          {1350},
          {fieldTable(FireEditor::fields()), gridTable("Fires", "grdFire", FireEditor::columns())}},
-        {"ECZones", "Environmental Control Zones", {1360}, {fieldTable(ZoneEditor::fields())}},
+        zonesTopic(),
         routeTopic(),
         trainTopic(),
         {"TrnInit", "Train Initialization", {1590}, {gridTable("Trains at the start", "Grid1", InitialTrainEditor::columns())}},
