@@ -52,6 +52,7 @@ void addElements(Window& window, LayoutPanel& panel, std::string_view caption, s
                  std::initializer_list<int> indices, bool oneUnit = true) {
     const auto first = window.controls().size();
     std::vector<Field> fields;
+    fields.reserve(indices.size());
     for (const int index : indices) {
         fields.push_back(trainField(array, index));
         if (!oneUnit) {
