@@ -43,7 +43,7 @@ private:
     [[nodiscard]] int wanted(int width, bool tall) const {
         const auto text = shownText();
         const int whole = needed(text, Plain);
-        if (!tall || whole - width <= Little) {
+        if (!tall || (!control().index && whole - width <= Little)) { // columns stand close by
             return whole;
         }
         int longest = 0;
