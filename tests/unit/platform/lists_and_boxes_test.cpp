@@ -156,6 +156,21 @@ TEST_F(TabOrder, GoesRoundAtBothEnds) {
     EXPECT_EQ(window.nextInTabOrder(nullptr, true), last);
 }
 
+TEST_F(TabOrder, GoesFromTheTabsIntoTheirCurrentPageThoughAnotherPageComesToTheFrontByItself) {
+    auto& strip = window.add(ControlKind::TabStrip, "strip");
+    strip.tabs().tabs = {{"one"}, {"two"}};
+    strip.tabs().current = 1;
+    auto& turning = window.add(ControlKind::TextBox, "turning");
+    auto& shown = window.add(ControlKind::TextBox, "shown");
+    turning.strip = shown.strip = &strip;
+    turning.turnsPage = true;
+    shown.page = 1;
+
+    EXPECT_EQ(window.nextInTabOrder(&strip, false), &shown);
+    EXPECT_EQ(window.nextInTabOrder(last, false), &strip);
+    EXPECT_EQ(window.nextInTabOrder(&shown, true), &turning);
+}
+
 TEST_F(TabOrder, LeavesOutWhatStandsOnAHiddenPanelOrAnotherPage) {
     auto& panel = window.add(ControlKind::Panel, "panel");
     panel.visible = false;
