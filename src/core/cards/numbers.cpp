@@ -132,8 +132,16 @@ private:
 };
 
 template <typename Integer> Integer rounded(double value) {
+    constexpr double lowest = std::numeric_limits<Integer>::min();
+    constexpr double highest = std::numeric_limits<Integer>::max();
+    if (value >= lowest && value <= highest) {
+        const auto cut = static_cast<Integer>(value);
+        if (cut == value) {
+            return cut; // whole as nearly all are: nothing to round
+        }
+    }
     const double whole = std::nearbyint(value); // the default rounding mode is half to even
-    if (!(whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max())) {
+    if (!(whole >= lowest && whole <= highest)) {
         throw Failure("Overflow");
     }
     return static_cast<Integer>(whole);
