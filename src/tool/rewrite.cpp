@@ -2,6 +2,7 @@
 #include "core/dataset/dataset.hpp"
 #include "core/dataset/progress.hpp"
 #include "tool/commands.hpp"
+#include "tool/store_whole.hpp"
 
 #include <cstdio>
 #include <exception>
@@ -54,18 +55,6 @@ void write(KOVDataSet& dataSet, CardWriter::Sink sink) {
     writer.flush();
 }
 
-bool store(const std::string& path, KOVDataSet& dataSet) {
-    File file(std::fopen(path.c_str(), "wb"));
-    if (!file) {
-        return false;
-    }
-    bool written = true;
-    write(dataSet, [&](std::string_view piece) {
-        written = written && std::fwrite(piece.data(), 1, piece.size(), file.get()) == piece.size();
-    });
-    return std::fclose(file.release()) == 0 && written;
-}
-
 int fail(int code, const std::string& message) {
     std::cerr << "kovtool: " << message << '\n';
     return code;
@@ -90,13 +79,13 @@ int rewrite(const std::string& in, const std::string& out, bool partial) {
     if (!done && !partial) {
         return ExitReadFailed;
     }
-    // OUT is opened only when it is known that all can be written: it may be IN, and a failure must leave it alone.
+    // OUT is touched only when it is known that all can be written: it may be IN, and a failure must leave it alone.
     try {
         write(dataSet, [](std::string_view) {});
     } catch (const std::exception& error) {
         return fail(ExitUnhandledFailure, std::string("writing failed: ") + error.what());
     }
-    if (!store(out, dataSet)) {
+    if (!storeWhole(out, [&](const CardWriter::Sink& put) { write(dataSet, put); })) {
         return fail(ExitUsage, "can't write " + out);
     }
     return done ? ExitDone : ExitReadFailed;
