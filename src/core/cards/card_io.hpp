@@ -33,6 +33,7 @@ public:
     CardReader& operator=(const CardReader&) = delete;
     ~CardReader() = default;
 
+    [[nodiscard]] bool atEnd();
     /// The next line without its end. End of file is a Failure.
     [[nodiscard]] std::string_view readLine();
     /// The line end that the file uses, judged by its first line; empty when no line ends. To be asked ahead of the first line.
@@ -105,6 +106,8 @@ public:
     void endCard();
     /// Hands on what the sink hasn't had yet.
     void flush();
+    /// Ends the line where one was begun.
+    void endBrokenCard();
 
     void reserve(std::size_t bytes) { out_.reserve(bytes); }
     [[nodiscard]] const std::string& content() const { return out_; }
