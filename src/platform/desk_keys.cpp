@@ -268,7 +268,8 @@ void Desk::arrow(Control& control, Key key) {
         const int row = grid.row() + (key == Key::Down ? 1 : 0) - (key == Key::Up ? 1 : 0);
         int col = grid.col() + (key == Key::Right ? 1 : 0) - (key == Key::Left ? 1 : 0);
         col = key == Key::Home ? grid.fixedCols() : key == Key::End ? grid.cols() - 1 : col;
-        if (row >= std::min(grid.fixedRows(), grid.rows() - 1) && row < grid.rows() && col >= grid.fixedCols() &&
+        const bool elsewhere = row != grid.row() || col != grid.col();
+        if (elsewhere && row >= std::min(grid.fixedRows(), grid.rows() - 1) && row < grid.rows() && col >= grid.fixedCols() &&
             col < grid.cols()) {
             moveCell(control, row, col);
         }

@@ -80,6 +80,7 @@ std::string Grid::line(int row) const {
 
 void Grid::addItem(std::string_view text, std::optional<int> before) {
     std::vector<std::string> cells;
+    cells.reserve(std::min(widths_.size(), static_cast<std::size_t>(std::count(text.begin(), text.end(), '\t')) + 1));
     for (std::size_t start = 0; start <= text.size() && cells.size() < widths_.size();) {
         const auto tab = std::min(text.find('\t', start), text.size());
         cells.emplace_back(text.substr(start, tab - start));

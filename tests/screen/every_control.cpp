@@ -22,6 +22,7 @@ public:
         addLists();
         addGrid();
         addTabs();
+        addDrawing();
         addMenus();
         for (const auto& control : window.controls()) {
             listen(*control);
@@ -143,6 +144,12 @@ private:
         std::get<ImagePart>(picture.part).path = "missing.svg";
         add(ControlKind::Button, "cmdDone", place(6900, 6600, 1200, 420), "OK");
         add(ControlKind::Button, "cmdCancel", place(8250, 6600, 1200, 420), "Cancel");
+    }
+    void addDrawing() {
+        auto& drawing = add(ControlKind::Drawing, "Curves", place(150, 5850, 3000, 1200)).drawing();
+        drawing.lines.push_back({{{Twips{150}, Twips{600}}, {Twips{2850}, Twips{600}}}, DrawingPart::Tone::First, false});
+        drawing.marks.push_back({{Twips{1500}, Twips{900}}, DrawingPart::Tone::Second});
+        drawing.labels.push_back({{Twips{1500}, Twips{225}}, "cfm", DrawingPart::Anchor::Center, DrawingPart::Tone::Text});
     }
     void addMenus() {
         window_.add(ControlKind::Menu, "M_Edit", "&Edit");

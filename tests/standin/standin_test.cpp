@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -41,6 +42,10 @@ protected:
         waitpid(child, &status, 0);
         return WEXITSTATUS(status);
     }
+    static std::string contentOf(const fs::path& path) {
+        std::ifstream file(path);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
     fs::path folder_;
 };
 
@@ -49,6 +54,19 @@ TEST_F(StandIn, exitsWith100AndLeavesBothOutputFilesWhenTheFileIsInOrder) {
     EXPECT_EQ(run(input), 100);
     EXPECT_TRUE(fs::exists(folder_ / "run 1.tmp"));
     EXPECT_TRUE(fs::exists(folder_ / "run 1.prn"));
+}
+
+TEST_F(StandIn, readsTheDeckOfTheWholeMissionAndListsWhatIsInIt) {
+    const auto input = folder_ / "harbor.kov";
+    fs::copy_file(fs::path(KOV_SOURCE_DIR) / "tests" / "scenarios" / "files" / "harbor-line.kov", input);
+    EXPECT_EQ(run(input), 100);
+    const auto listing = contentOf(folder_ / "harbor.prn");
+    for (const auto* const line :
+         {"HARBOR LINE - EVENING RUSH HOUR", "Line sections   5", "Line segments   6", "Vent sections   2", "Nodes           8",
+          "Fires           1", "Fans            2", "Impulse fans    1", "Routes          2", "Train types     2",
+          "Initial trains  2", "EC zones        2", "Input verification successful"}) {
+        EXPECT_NE(listing.find(std::string(line) + "\n"), std::string::npos) << line << "\n" << listing;
+    }
 }
 
 TEST_F(StandIn, exitsWithTheNumberOfTheFormThatCannotBeRead) { EXPECT_EQ(run(copyOfSample("only an identification\n")), 1); }

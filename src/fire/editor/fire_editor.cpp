@@ -11,7 +11,7 @@ namespace kov {
 namespace {
 
 constexpr std::array Fields{
-    Field{"tbEffEmm", "Effective Emmissivity", "", real(0, 1), "Effective Emissivity of Combustion Products: 0. - 1.0",
+    Field{"tbEffEmm", "Effective Emmissivity", "", real(0, 1), "Effective Emmissivity of Combustion Products: 0. - 1.0",
           &KOVDataSet::EECPG, "Form 1G, columns 71-80"},
 };
 
@@ -34,7 +34,7 @@ constexpr std::array Columns{
            "Form 4, line 2, columns 51-60"},
 };
 
-constexpr EntryWindowTraits Traits{"Fire Data", "Form 4", 1310, {}, {}};
+constexpr EntryWindowTraits Traits{"Fire Data", "Form 4", 1350, {}, {}};
 constexpr std::string_view NewRow = "\t1\t1\t0.\t0.\t0.\t0.\t500.\t0.";
 constexpr std::string_view Unnamed = "New";
 constexpr int FirstFireColumn = 7, VisibleRows = 12;

@@ -13,14 +13,17 @@ constexpr Field TypeField{"cbZoneType", "Zone Type", "", text(), "", nullptr, "F
 constexpr double Margin = 150, TitleHeight = 330, Line = 315, Button = 405, ListHeight = 2700;
 constexpr double ListWidth = 2400, MoveWidth = 1500, NumberWidth = 750, SpinWidth = 330, CommandWidth = 1000;
 
-Control& addIn(Window& window, Control& panel, ControlKind kind, std::string_view name, std::string_view caption, Bounds place) {
+Control& addIn(Window& window, Control& panel, ControlKind kind, std::string_view name, std::string_view caption,
+               Bounds place) {
     auto& control = window.add(kind, std::string(name), std::string(caption));
     control.parent = &panel;
     control.bounds = place;
     return control;
 }
 
-Bounds at(double left, double top, double width, double height) { return {Twips{left}, Twips{top}, Twips{width}, Twips{height}}; }
+Bounds at(double left, double top, double width, double height) {
+    return {Twips{left}, Twips{top}, Twips{width}, Twips{height}};
+}
 
 /// Number, spin button and the two commands on zones as a whole.
 void addZonePanel(Window& window, Bounds place) {
@@ -68,7 +71,8 @@ void ZoneEditor::build() {
     addList(window_, "ZList", "Zone Segments", left, lists);
     const double middle = left + ListWidth + Margin;
     window_.add(ControlKind::Button, "cmdAdd", "<< Add").bounds = at(middle, lists + ListHeight / 3, MoveWidth, Button);
-    window_.add(ControlKind::Button, "cmdDelItem", "Remove >>").bounds = at(middle, lists + ListHeight / 3 + Button + Margin, MoveWidth, Button);
+    window_.add(ControlKind::Button, "cmdDelItem", "Remove >>").bounds =
+        at(middle, lists + ListHeight / 3 + Button + Margin, MoveWidth, Button);
     addList(window_, "PickList", "Pick From...", middle + MoveWidth + Margin, lists);
     stack.skip(TitleHeight + Button + 3 * Margin + Line + ListHeight);
     stack.button("cmdDone", "OK");

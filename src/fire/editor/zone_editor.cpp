@@ -21,7 +21,7 @@ constexpr std::array Fields{
           "Form 11, columns 51-60"},
 };
 
-constexpr EntryWindowTraits Traits{"Environmental Control Zones", "Form 11", 1320, {}, {}};
+constexpr EntryWindowTraits Traits{"Environmental Control Zones", "Form 11", 1360, {}, {}};
 constexpr int Controlled = 1, VentShafts = 3, WarningStyle = 48;
 
 bool anySelected(const ItemList& list) {
@@ -74,6 +74,7 @@ void ZoneEditor::bind() {
 
 void ZoneEditor::load() {
     auto& data = *app_.DataSet;
+    ZSects = {};
     data.Sections.SegZList(ZSects);
     data.Vents.VentZList(ZSects);
     for (std::int16_t zone = 1; zone <= data.ECZones.Count(); ++zone) {
@@ -115,6 +116,11 @@ void ZoneEditor::fillPickList() {
             pickList().addItem(record->sid);
         }
     }
+}
+
+bool ZoneEditor::holdsItsZone() const {
+    const auto& zones = app_.DataSet->ECZones;
+    return CurZone <= zones.Count() && zones.Zone(Position{CurZone}) == ThisZone;
 }
 
 void ZoneEditor::saveZone() {
@@ -183,6 +189,10 @@ void ZoneEditor::onTakeOut() {
 
 void ZoneEditor::onNext() {
     saveZone();
+    if (!holdsItsZone()) {
+        load();
+        return;
+    }
     auto& zones = app_.DataSet->ECZones;
     if (CurZone < zones.Count()) {
         ++CurZone;
@@ -197,6 +207,10 @@ void ZoneEditor::onNext() {
 
 void ZoneEditor::onPrevious() {
     saveZone();
+    if (!holdsItsZone()) {
+        load();
+        return;
+    }
     if (CurZone > 1) {
         --CurZone;
     }
@@ -205,12 +219,20 @@ void ZoneEditor::onPrevious() {
 
 void ZoneEditor::onInsert() {
     saveZone();
+    if (!holdsItsZone()) {
+        load();
+        return;
+    }
     app_.DataSet->ECZones.Add(Position{CurZone});
     showZone();
     entry_.flags.FormChanged = true;
 }
 
 void ZoneEditor::onDelete() {
+    if (!holdsItsZone()) {
+        load();
+        return;
+    }
     for (int i = 0; i < zoneList().count(); ++i) {
         recordOf(zoneList().item(i)).used = false;
     }

@@ -27,6 +27,8 @@ private:
     void load();
     void showZone();
     void saveZone();
+    /// False when another data set has come since the zone was shown: the window then begins anew with what is there.
+    [[nodiscard]] bool holdsItsZone() const;
     void fillPickList();
     void onZoneType();
     void onAdd();

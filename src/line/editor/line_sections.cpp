@@ -11,8 +11,8 @@ namespace kov {
 namespace {
 
 constexpr int IdColumn = 0, StartColumn = 1, StopColumn = 2, CountColumn = 3, AirColumn = 4;
-constexpr int HelpContextNumber = 110;
-constexpr EntryWindowTraits Traits{"Line Sections", "Form 2A", HelpContextNumber, Twips{8400}, Twips{6300}};
+constexpr int HelpContextNumber = 1200;
+constexpr EntryWindowTraits Traits{"Line Sections", "Form 2A", HelpContextNumber, Twips{9000}, Twips{6060}};
 
 constexpr std::array Columns{
     Column{" Sect   No ", "", integer(1, 999), "Section Number: 1 - 999", "Form 2A, 1-10"},
@@ -21,7 +21,7 @@ constexpr std::array Columns{
     Column{"# Line Segs", "", integer(1, 99), "Number of Line Segments: 1 or greater", "Form 2A, 31-40"},
     Column{"Initial Air Flow", "CFM", integer(-10000000, 10000000), "Initial Air Flow:  +/- 10,000,000 CFM", "Form 2A, 41-50"},
 };
-constexpr std::array<double, Columns.size()> Widths{1300, 1400, 1400, 1500, 2200};
+constexpr std::array<double, Columns.size()> Widths{1500, 1600, 1600, 1700, 2070};
 
 struct MenuEntry {
     std::string_view name;
@@ -44,7 +44,7 @@ constexpr std::array Menus{
 Control& buildGrid(Window& window) {
     const Placer placer{window};
     return placer.grid("grdLSect", "gtext", std::nullopt, Columns, Widths,
-                       boundsOf(Placer::Margin, Placer::Margin, 8160, 5200));
+                       boundsOf(Placer::Margin, Placer::Margin, 9000 - 2 * Placer::Margin, 5250));
 }
 
 /// A section that has no number yet.
@@ -73,10 +73,10 @@ LineSections::LineSections(Application& app, Window& window)
 
 void LineSections::build() {
     const Placer placer{window_};
-    constexpr double Top = 5550, Width = 1500, Height = 450;
+    constexpr double Top = 5520, Width = 1500, Height = 405;
     placer.add(ControlKind::Button, "cmdGoSeg", "&SEGMENTS", boundsOf(Placer::Margin, Top, Width, Height));
-    placer.add(ControlKind::Button, "cmdOkay", "OK", boundsOf(5160, Top, Width, Height));
-    placer.add(ControlKind::Button, "cmdHelp", "Help", boundsOf(6780, Top, Width, Height));
+    placer.add(ControlKind::Button, "cmdOkay", "OK", boundsOf(5820, Top, Width, Height));
+    placer.add(ControlKind::Button, "cmdHelp", "Help", boundsOf(7410, Top, Width, Height));
     for (const auto& entry : Menus) {
         placer.menu(entry.name, entry.caption, entry.menu);
     }

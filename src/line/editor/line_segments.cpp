@@ -10,7 +10,7 @@
 namespace kov {
 namespace {
 
-constexpr int NumberColumn = 1, HelpContextNumber = 120;
+constexpr int NumberColumn = 1, HelpContextNumber = 1210;
 // From this row on the list's top row follows the first segment shown.
 constexpr int FirstFollowedRow = 15;
 constexpr std::string_view ListForm = "Form 3", ListHint = "Enter Segment Number";
@@ -24,8 +24,8 @@ constexpr std::array Columns{
 };
 
 Control& buildList(Window& window) {
-    buildSegmentControls(window, {SegmentGeneral::fields(), SegmentEnvironment::fields(), Columns,
-                                  SegmentGrids::subsegmentColumns(), SegmentGrids::heatSourceColumns()});
+    buildSegmentControls(window, {SegmentGeneral::fields(), SegmentEnvironment::fields(), SegmentGrids::subsegmentColumns(),
+                                  SegmentGrids::heatSourceColumns()});
     return window.control("grdLSeg");
 }
 

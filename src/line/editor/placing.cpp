@@ -3,9 +3,12 @@
 namespace kov {
 namespace {
 
-constexpr double UnitWidth = 1500;
+// Of a character of 8 to 9 points, and of the lines of a caption that takes two.
+constexpr double Character = 92, TextLine = 255;
 // A person never sees the box behind an overlay.
 constexpr double DummySize = 15;
+
+double textWidth(std::string_view text) { return static_cast<double>(text.size()) * Character; }
 
 } // namespace
 
@@ -30,34 +33,56 @@ Control& Placer::field(const Field& field, double left, double top, double capti
     const double boxLeft = left + captionWidth + Gap;
     auto& box = add(ControlKind::TextBox, field.control, {}, boundsOf(boxLeft, top, boxWidth, Line));
     if (!field.unit.empty()) {
-        label("unit" + suffix, field.unit, boxLeft + boxWidth + Gap, top, UnitWidth);
+        label("unit" + suffix, field.unit, boxLeft + boxWidth + Gap, top, textWidth(field.unit));
     }
     return box;
 }
 
-Placer Placer::panel(std::string_view name, std::string_view caption, const Bounds& place) const {
-    auto& made = add(ControlKind::Panel, name, caption, place);
+Placer Placer::frame(std::string_view name, std::string_view caption, const Bounds& place) const {
+    auto& made = add(ControlKind::Frame, name, caption, place);
     return {window, &made, strip, page};
 }
 
 Control& Placer::grid(std::string_view name, std::string_view overlay, std::optional<int> dummy,
                       std::span<const Column> columns, std::span<const double> widths, const Bounds& place) const {
-    double left = place.left.value;
-    int index = 0;
-    for (const auto& column : columns) {
-        const double width = widths[static_cast<std::size_t>(index)];
-        label("cap" + std::string(name.substr(3)), column.caption, left, place.top.value, width, index++);
-        left += width;
+    double captionHeight = Line;
+    double unitHeight = 0;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (textWidth(columns[i].caption) > widths[i]) {
+            captionHeight = 2 * TextLine;
+        }
+        if (!columns[i].unit.empty()) {
+            unitHeight = TextLine;
+        }
     }
-    const double top = place.top.value + Line;
-    auto& made =
-        add(ControlKind::Grid, name, {}, boundsOf(place.left.value, top, place.width.value, place.height.value - Line));
+    const std::string suffix(name.substr(3));
+    const double top = place.top.value;
+    double left = place.left.value;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const int index = static_cast<int>(i);
+        add(ControlKind::Label, "cap" + suffix, columns[i].caption, boundsOf(left, top, widths[i], captionHeight), index);
+        if (!columns[i].unit.empty()) {
+            add(ControlKind::Label, "unit" + suffix, columns[i].unit,
+                boundsOf(left, top + captionHeight, widths[i], unitHeight), index);
+        }
+        left += widths[i];
+    }
+    const double above = captionHeight + unitHeight;
+    return plainGrid(name, overlay, dummy, widths,
+                     boundsOf(place.left.value, top + above, place.width.value, place.height.value - above));
+}
+
+Control& Placer::plainGrid(std::string_view name, std::string_view overlay, std::optional<int> dummy,
+                           std::span<const double> widths, const Bounds& place) const {
+    auto& made = add(ControlKind::Grid, name, {}, place);
     made.grid().setCols(static_cast<int>(widths.size()));
     for (int col = 0; col < made.grid().cols(); ++col) {
         made.grid().setColWidth(col, Twips{widths[static_cast<std::size_t>(col)]});
     }
-    add(ControlKind::TextBox, overlay, {}, boundsOf(place.left.value, top, DummySize, Line)).visible = false;
-    add(ControlKind::TextBox, "Dummy", {}, boundsOf(place.left.value, top, DummySize, DummySize), dummy);
+    const double left = place.left.value;
+    const double top = place.top.value;
+    add(ControlKind::TextBox, overlay, {}, boundsOf(left, top, DummySize, Line)).visible = false;
+    add(ControlKind::TextBox, "Dummy", {}, boundsOf(left, top, DummySize, DummySize), dummy);
     return made;
 }
 

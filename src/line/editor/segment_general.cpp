@@ -85,8 +85,13 @@ void SegmentGeneral::wireType(const Field& field) {
         type_.items().addItem(item);
     }
     bindHint(editing_.app, type_, field.hint);
-    // What is typed is no entry of the list, even where it reads like one.
-    type_.on.change = [this] { type_.items().setIndex(-1); };
+    // What is typed is no entry of the list, even where it reads like one; an entry that was chosen has its own text.
+    type_.on.change = [this] {
+        const int chosen = type_.items().index();
+        if (chosen >= 0 && type_.items().item(chosen) != type_.text().text) {
+            type_.items().setIndex(-1);
+        }
+    };
     type_.on.lostFocus = [this] {
         editing_.app.desk.setPanel(2, "");
         editing_.dataChanged = true;

@@ -8,10 +8,17 @@
 namespace kov {
 namespace {
 
-constexpr double Margin = Placer::Margin, Gap = Placer::Gap, Line = Placer::Line, Step = Line + 75;
-constexpr double ListWidth = 1900, Right = Margin + ListWidth + 2 * Margin, Width = 12600 - Right - Margin;
-constexpr double TitleTop = Margin, StripTop = 600, StripHeight = 6900, PageTop = StripTop + 500, ButtonsTop = 7650;
-constexpr double PageLeft = Right + Margin, PageWidth = Width - 2 * Margin, PageHeight = StripHeight - 650;
+constexpr double Margin = Placer::Margin, Gap = Placer::Gap, Line = Placer::Line, Step = Line + Gap;
+constexpr double WindowWidth = SegmentWindowWidth.value, ListWidth = 1700, Right = Margin + ListWidth + Margin;
+constexpr double Width = WindowWidth - Right - Margin, StripTop = 480, StripHeight = 5080, ButtonsTop = 5655;
+constexpr double ButtonWidth = 1200, ButtonHeight = 405;
+// Of the pages: below the tabs, inside the strip's edges.
+constexpr double PageTop = StripTop + 450, PageLeft = Right + Margin, PageWidth = Width - 2 * Margin;
+constexpr double PageHeight = StripTop + StripHeight - Margin - PageTop;
+constexpr double BoxWidth = 1050;
+// The general page below the type: geometry and head losses on the left, wall types on the right.
+constexpr double GroupsTop = PageTop + 420, GroupsHeight = PageTop + PageHeight - GroupsTop;
+constexpr double LeftGroup = 3960, GeometryHeight = 1770;
 constexpr int WallTypeCount = 8;
 
 const Field& find(std::span<const Field> fields, std::string_view control) {
@@ -23,36 +30,42 @@ const Field& find(std::span<const Field> fields, std::string_view control) {
     throw std::out_of_range("no field " + std::string(control));
 }
 
-void addList(Window& window, const SegmentTables& tables) {
-    const auto panel = Placer{window}.panel("pnlList", "Sect  -  Seg", boundsOf(Margin, Margin, ListWidth, 7400));
-    constexpr std::array<double, 2> Widths{760, 760};
-    panel.grid("grdLSeg", "gtext", 0, {}, Widths, boundsOf(Gap, Gap, ListWidth - 2 * Gap, 7280)).grid().setFixed(0, 1);
-    static_cast<void>(tables);
+void addList(Window& window) {
+    const Placer placer{window};
+    placer.add(ControlKind::Panel, "pnlList", "Sect  -  Seg", boundsOf(Margin, Margin, ListWidth, Line));
+    constexpr std::array<double, 2> Widths{670, 670};
+    const double top = Margin + Line;
+    const auto place = boundsOf(Margin, top, ListWidth, StripTop + StripHeight - top);
+    placer.plainGrid("grdLSeg", "gtext", 0, Widths, place).grid().setFixed(0, 1);
 }
 
 void addHead(Window& window, const SegmentTables& tables) {
     const Placer placer{window};
-    placer.label("lblSegment", "Segment", Right, TitleTop, 900);
-    placer.label("lblsegid", "", Right + 960, TitleTop, 700);
-    placer.field(find(tables.general, "tbsegtitle"), Right + 1800, TitleTop, 600, Width - 2460);
+    placer.label("lblSegment", "Segment", Right, Margin, 780);
+    placer.label("lblsegid", "", Right + 780 + Gap, Margin, 480);
+    constexpr double TitleLeft = Right + 1400, CaptionWidth = 480;
+    placer.field(find(tables.general, "tbsegtitle"), TitleLeft, Margin, CaptionWidth,
+                 Right + Width - TitleLeft - CaptionWidth - Gap);
     auto& strip = placer.add(ControlKind::TabStrip, "SSTab1", "", boundsOf(Right, StripTop, Width, StripHeight));
     strip.tabs().tabs = {{"&General"}, {"&SubSegments"}, {"EC &Data"}, {"Heat &Loads"}};
 }
 
 void addTypeRow(const Placer& page, const SegmentTables& tables) {
     const auto& type = find(tables.general, "tbsegtype");
-    page.label("lblsegtype", type.caption, PageLeft, PageTop, 1500).alignRight = true;
-    auto& combo = page.add(ControlKind::Combo, type.control, {}, boundsOf(PageLeft + 1560, PageTop, 3900, Line));
+    page.label("lblsegtype", type.caption, PageLeft, PageTop, 480).alignRight = true;
+    auto& combo = page.add(ControlKind::Combo, type.control, {}, boundsOf(PageLeft + 480 + Gap, PageTop, 3420, Line));
     std::get<ComboPart>(combo.part).dropDownList = false;
     const auto& fire = find(tables.general, "cbfire");
-    page.add(ControlKind::CheckBox, fire.control, fire.caption, boundsOf(PageLeft + 5700, PageTop, 1800, Line));
-    page.add(ControlKind::Button, "cmdFire", "Fire . . .", boundsOf(PageLeft + 7800, PageTop - 45, 1500, 400));
+    page.add(ControlKind::CheckBox, fire.control, fire.caption, boundsOf(PageLeft + 4110, PageTop, 1500, Line));
+    const double buttonLeft = PageLeft + PageWidth - ButtonWidth;
+    page.add(ControlKind::Button, "cmdFire", "Fire . . .", boundsOf(buttonLeft, PageTop - Gap, ButtonWidth, ButtonHeight));
 }
 
 void addGeometry(const Placer& page, const SegmentTables& tables) {
-    double top = PageTop + 600;
+    const auto frame = page.frame("fraGeometry", "", boundsOf(PageLeft, GroupsTop, LeftGroup, GeometryHeight));
+    double top = 180;
     for (const auto* const control : {"tbSLen", "tbHeight", "tbXArea", "tbWWS"}) {
-        page.field(find(tables.general, control), PageLeft, top, 1500, 1200);
+        frame.field(find(tables.general, control), Margin, top, 1500, BoxWidth);
         top += Step;
     }
 }
@@ -60,26 +73,39 @@ void addGeometry(const Placer& page, const SegmentTables& tables) {
 void addWallTypes(const Placer& page, const SegmentTables& tables) {
     const auto& perimeter = find(tables.general, "tbPerim");
     const auto& roughness = find(tables.general, "tbrough");
-    constexpr double Left = PageLeft + 5400, BoxWidth = 1400;
-    double top = PageTop + 600;
-    page.label("lblPerim", perimeter.caption, Left, top, BoxWidth);
-    page.label("lblrough", roughness.caption, Left + BoxWidth + Margin, top, BoxWidth);
+    constexpr double FrameLeft = LeftGroup + Margin, Column = 1350, SecondColumn = Margin + Column + Margin;
+    const auto frame =
+        page.frame("fraWalls", "", boundsOf(PageLeft + FrameLeft, GroupsTop, PageWidth - FrameLeft, GroupsHeight));
+    double top = 180;
+    frame.label("lblPerim", perimeter.caption, Margin, top, Column);
+    frame.label("lblrough", roughness.caption, SecondColumn, top, Column);
     for (int i = 0; i < WallTypeCount; ++i) {
-        top += Step;
-        page.add(ControlKind::TextBox, perimeter.control, {}, boundsOf(Left, top, BoxWidth, Line), i);
-        page.add(ControlKind::TextBox, roughness.control, {}, boundsOf(Left + BoxWidth + Margin, top, BoxWidth, Line), i);
+        top += Step + Gap;
+        frame.add(ControlKind::TextBox, perimeter.control, {}, boundsOf(Margin, top, Column, Line), i);
+        frame.add(ControlKind::TextBox, roughness.control, {}, boundsOf(SecondColumn, top, Column, Line), i);
     }
 }
 
 void addHeadLosses(const Placer& page, const SegmentTables& tables) {
-    const auto panel = page.panel("pnlHeadLoss", "   Head Loss Coefficients", boundsOf(PageLeft, PageTop + 2500, 5000, 2600));
-    double top = 420;
-    for (const auto& [caption, forward, reverse] :
-         {std::array{"At Forward Limit", "tbHLFP", "tbHLFN"}, std::array{"At Back Limit", "tbHLBP", "tbHLBN"}}) {
-        panel.label(forward == std::string_view("tbHLFP") ? "lblForward" : "lblBack", caption, Margin, top, 2000);
-        panel.field(find(tables.general, forward), 1500, top + Step - Gap, 1500, 1200);
-        panel.field(find(tables.general, reverse), 1500, top + 2 * Step - Gap, 1500, 1200);
-        top += 3 * Step - 120;
+    const double frameTop = GroupsTop + GeometryHeight + Margin;
+    const auto frame = page.frame("pnlHeadLoss", "   Head Loss Coefficients",
+                                  boundsOf(PageLeft, frameTop, LeftGroup, GroupsTop + GroupsHeight - frameTop));
+    constexpr double CaptionWidth = 1500, Column = 1110, First = Margin + CaptionWidth + Gap, Second = First + Column + Gap;
+    double top = Placer::Title;
+    frame.label("lblPositive", find(tables.general, "tbHLFP").caption, First, top, Column);
+    frame.label("lblReverse", find(tables.general, "tbHLFN").caption, Second, top, Column);
+    struct Limit {
+        std::string_view label;
+        std::string_view caption;
+        std::string_view positive;
+        std::string_view reverse;
+    };
+    for (const auto& limit :
+         {Limit{"lblForward", "At Forward Limit", "tbHLFP", "tbHLFN"}, Limit{"lblBack", "At Back Limit", "tbHLBP", "tbHLBN"}}) {
+        top += Step;
+        frame.label(limit.label, limit.caption, Margin, top, CaptionWidth).alignRight = true;
+        frame.add(ControlKind::TextBox, limit.positive, {}, boundsOf(First, top, Column, Line));
+        frame.add(ControlKind::TextBox, limit.reverse, {}, boundsOf(Second, top, Column, Line));
     }
 }
 
@@ -91,10 +117,12 @@ void addGeneral(Window& window, const SegmentTables& tables, Control& strip) {
     addHeadLosses(page, tables);
 }
 
-void addPanelFields(const Placer& panel, std::span<const Field> fields) {
-    double top = 480;
+double frameHeight(std::size_t rows) { return Placer::Title + static_cast<double>(rows) * Step + Margin; }
+
+void addFrameFields(const Placer& frame, std::span<const Field> fields) {
+    double top = Placer::Title;
     for (const auto& field : fields) {
-        panel.field(field, Margin, top, 3600, 1200);
+        frame.field(field, Margin, top, 3330, BoxWidth);
         top += Step;
     }
 }
@@ -102,11 +130,17 @@ void addPanelFields(const Placer& panel, std::span<const Field> fields) {
 void addEnvironment(Window& window, const SegmentTables& tables, Control& strip) {
     constexpr std::size_t WallFields = 4;
     const Placer page{window, nullptr, &strip, 2};
-    addPanelFields(page.panel("ECPanel1", "Tunnel Wall Properties", boundsOf(PageLeft, PageTop, 7500, 2300)),
-                   tables.environment.first(WallFields));
-    addPanelFields(page.panel("ECPanel2", "Surrounding Soil Properties", boundsOf(PageLeft, PageTop + 2450, 7500, 1900)),
-                   tables.environment.subspan(WallFields));
-    page.add(ControlKind::Button, "cmdECDefault", "Set As Default", boundsOf(PageLeft, PageTop + 4500, 1800, 450));
+    const auto wall = tables.environment.first(WallFields);
+    const auto soil = tables.environment.subspan(WallFields);
+    double top = PageTop;
+    addFrameFields(
+        page.frame("ECPanel1", "Tunnel Wall Properties", boundsOf(PageLeft, top, PageWidth, frameHeight(wall.size()))), wall);
+    top += frameHeight(wall.size()) + Margin;
+    addFrameFields(
+        page.frame("ECPanel2", "Surrounding Soil Properties", boundsOf(PageLeft, top, PageWidth, frameHeight(soil.size()))),
+        soil);
+    top += frameHeight(soil.size()) + 2 * Margin;
+    page.add(ControlKind::Button, "cmdECDefault", "Set As Default", boundsOf(PageLeft, top, 1800, ButtonHeight));
 }
 
 struct MenuEntry {
@@ -135,11 +169,11 @@ constexpr std::array Menus{
 
 void addButtonsAndMenus(Window& window) {
     const Placer placer{window};
-    double left = 12600 - Margin - 3 * 1500 - 2 * Margin;
+    double left = WindowWidth - 3 * (ButtonWidth + Margin);
     for (const auto& [name, caption] :
          {std::pair{"cmdOK", "OK"}, std::pair{"cmdCancel", "Cancel"}, std::pair{"cmdHelp", "Help"}}) {
-        placer.add(ControlKind::Button, name, caption, boundsOf(left, ButtonsTop, 1500, 450));
-        left += 1500 + Margin;
+        placer.add(ControlKind::Button, name, caption, boundsOf(left, ButtonsTop, ButtonWidth, ButtonHeight));
+        left += ButtonWidth + Margin;
     }
     for (const auto& entry : Menus) {
         placer.menu(entry.name, entry.caption, entry.menu);
@@ -149,15 +183,15 @@ void addButtonsAndMenus(Window& window) {
 } // namespace
 
 void buildSegmentControls(Window& window, const SegmentTables& tables) {
-    addList(window, tables);
+    addList(window);
     addHead(window, tables);
     auto& strip = window.control("SSTab1");
     addGeneral(window, tables, strip);
     const auto pageBounds = boundsOf(PageLeft, PageTop, PageWidth, PageHeight);
-    constexpr std::array<double, 5> SubsegmentWidths{1500, 1500, 1900, 1900, 1900};
+    constexpr std::array<double, 5> SubsegmentWidths{1300, 1300, 1350, 1350, 1350};
     Placer{window, nullptr, &strip, 1}.grid("grdSubSeg", "gtext2", 1, tables.subsegments, SubsegmentWidths, pageBounds);
     addEnvironment(window, tables, strip);
-    constexpr std::array<double, 6> HeatSourceWidths{3000, 1300, 1300, 900, 1500, 1500};
+    constexpr std::array<double, 6> HeatSourceWidths{2010, 900, 900, 560, 1150, 1150};
     Placer{window, nullptr, &strip, 3}.grid("grdSSHS", "gtext3", 2, tables.heatSources, HeatSourceWidths, pageBounds);
     addButtonsAndMenus(window);
 }

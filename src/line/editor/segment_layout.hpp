@@ -11,13 +11,12 @@ namespace kov {
 struct SegmentTables {
     std::span<const Field> general;
     std::span<const Field> environment;
-    std::span<const Column> list;
     std::span<const Column> subsegments;
     std::span<const Column> heatSources;
 };
 
-inline constexpr Twips SegmentWindowWidth{12600};
-inline constexpr Twips SegmentWindowHeight{8400};
+inline constexpr Twips SegmentWindowWidth{9180};
+inline constexpr Twips SegmentWindowHeight{6150};
 
 /// Makes and places all controls of the segment window, in tab order.
 void buildSegmentControls(Window& window, const SegmentTables& tables);

@@ -84,6 +84,8 @@ std::unique_ptr<ControlView> makeView(Control& control, Ground& ground, QWidget*
         return makeGridView(control, ground, parent);
     case ControlKind::TabStrip:
         return makeTabView(control, ground, parent);
+    case ControlKind::Drawing:
+        return makeDrawingView(control, ground, parent);
     case ControlKind::Menu:
     case ControlKind::Timer:
         return nullptr;

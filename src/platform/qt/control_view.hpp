@@ -81,6 +81,7 @@ private:
 [[nodiscard]] std::unique_ptr<ControlView> makeComboView(Control& control, Ground& ground, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> makeGridView(Control& control, Ground& ground, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> makeTabView(Control& control, Ground& ground, QWidget* parent);
+[[nodiscard]] std::unique_ptr<ControlView> makeDrawingView(Control& control, Ground& ground, QWidget* parent);
 
 /// How far a grid's columns are scrolled to the left, in pixels; 0 for other views.
 [[nodiscard]] int scrolledColumns(const ControlView& view);

@@ -87,4 +87,22 @@ QFont fixedFont() {
 
 QColor lineColor(const QPalette& palette) { return palette.color(QPalette::Mid); }
 
+QColor toneColor(DrawingPart::Tone tone, const QPalette& palette) {
+    const bool dark = palette.color(QPalette::Base).lightness() < MiddleGrey;
+    switch (tone) {
+    case DrawingPart::Tone::Axis:
+        return palette.color(QPalette::PlaceholderText);
+    case DrawingPart::Tone::Faint:
+        return palette.color(dark ? QPalette::Button : QPalette::Window);
+    case DrawingPart::Tone::First:
+        return dark ? QColor(0x6aa8ff) : QColor(0x1f5fbf);
+    case DrawingPart::Tone::Second:
+        return dark ? QColor(0xffa14a) : QColor(0xb8530a);
+    case DrawingPart::Tone::Limit:
+        return dark ? QColor(0xff7b72) : QColor(0xb3261e);
+    default:
+        return palette.color(QPalette::Text);
+    }
+}
+
 } // namespace kov::qt

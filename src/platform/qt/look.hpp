@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/controls.hpp"
+
 #include <QColor>
 #include <QFont>
 
@@ -22,5 +24,7 @@ void setLook(QApplication& application, Look look);
 
 /// Lines between the cells of a grid, around panels and the like.
 [[nodiscard]] QColor lineColor(const QPalette& palette);
+/// The colour of a drawing's tone on the palette's base colour.
+[[nodiscard]] QColor toneColor(DrawingPart::Tone tone, const QPalette& palette);
 
 } // namespace kov::qt

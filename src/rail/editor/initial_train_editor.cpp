@@ -25,10 +25,11 @@ constexpr std::array Columns{
     Column{"Remaining Dwell", "sec", real(-1, 900),
            "Remaining Dwell time (for stopped trains): 0 to 900 seconds.  -1 to prevent movement.", "Form 10, columns 61-70"},
     Column{"Coast", "", integer(0, 1),
-           "Enter 1 if the train is coasting at the beginning of the simulation;  0 if not coasting.", "Form 10, columns 71-80"},
+           "Enter 1 if the train is coasting at the beginning of the simulation;  0 if not coasting.",
+           "Form 10, columns 71-80"},
 };
 
-constexpr EntryWindowTraits Traits{"Train Initialization", "Form 10", 1430, {}, {}};
+constexpr EntryWindowTraits Traits{"Train Initialization", "Form 10", 1590, {}, {}};
 constexpr std::string_view NewRow = "\t0.\t1\t1\t0.\t0.\t0\t0";
 constexpr int VisibleRows = 15;
 
@@ -37,14 +38,14 @@ constexpr int VisibleRows = 15;
 std::span<const Column> InitialTrainEditor::columns() { return Columns; }
 
 InitialTrainEditor::InitialTrainEditor(Application& app, Window& window)
-    : app_(app), window_(window), entry_(app, window, Traits) {
+    : app_(app), window_(window), data_(app.DataSet), entry_(app, window, Traits) {
     build();
     bindGrid();
     window_.control("cmdOkay").on.click = [this] { app_.desk.unload(window_); };
     entry_.bindStandardControls();
     entry_.assign = [this] { save(); };
     entry_.loadStep();
-    app_.DataSet->InitTrains.TrainList(grid());
+    data_->InitTrains.TrainList(grid());
 }
 
 void InitialTrainEditor::build() {
@@ -92,7 +93,7 @@ void InitialTrainEditor::onCut() {
 }
 
 void InitialTrainEditor::save() {
-    auto& trains = app_.DataSet->InitTrains;
+    auto& trains = data_->InitTrains;
     trains.Clear();
     for (int row = 0; row < grid().rows(); ++row) {
         const auto cell = [&](int col) { return std::string_view(grid().text(row, col)); };

@@ -29,6 +29,7 @@ private:
 
     Application& app_;
     Window& window_;
+    std::shared_ptr<KOVDataSet> data_; ///< what the window shows stays alive as long as it shows it
     EntryWindow entry_;
     std::unique_ptr<GridOverlay> overlay_;
 };

@@ -9,11 +9,17 @@
 namespace kov {
 namespace {
 
-constexpr std::array<std::string_view, 6> Tabs{"&General", "&Train Groups", "&Alignment", "&Stops", "&Performance", "&Route Sects"};
-constexpr int VisibleRows = 8, SectionsPage = static_cast<int>(RoutePage::Sections);
+constexpr std::array<std::string_view, 6> Tabs{"&General", "&Train Groups", "&Alignment",
+                                               "&Stops",   "&Performance",  "&Route Sects"};
+constexpr std::array<std::string_view, 4> Headings{"lblGroups", "lblTracks", "lblStops", "lblPerformance"};
+// The alignment leaves room for the profile below it.
+constexpr int VisibleRows = 8, AlignmentRows = 4, SectionsPage = static_cast<int>(RoutePage::Sections);
+constexpr double ProfileWidth = 4000, ProfileHeight = 1500, OptionWidth = 2400, OptionHeight = 285;
 constexpr double Margin = 90, Line = 315, Button = 405, ListTop = 1200, ListHeight = 2400, ListWidth = 1900, MoveWidth = 1500;
 
-Bounds at(double left, double top, double width, double height) { return {Twips{left}, Twips{top}, Twips{width}, Twips{height}}; }
+Bounds at(double left, double top, double width, double height) {
+    return {Twips{left}, Twips{top}, Twips{width}, Twips{height}};
+}
 
 Control& add(Window& window, ControlKind kind, std::string_view name, std::string_view caption = {},
              std::optional<int> index = std::nullopt) {
@@ -40,22 +46,24 @@ void addHead(Window& window, StackedLayout& stack) {
     stack.row(commands);
 }
 
-/// Grid, overlay and stop of one page, as elements of their arrays.
-void addGrid(LayoutPanel& panel, int index) {
-    auto made = panel.grid("Grid1", routeGrids()[static_cast<std::size_t>(index)].columns, VisibleRows, "gtext", "Dummy1");
+/// Grid, overlay and stop of one page, as elements of their arrays, and the headings by the name of what the grid holds.
+void addGrid(Window& window, LayoutPanel& panel, int index, int visibleRows = VisibleRows) {
+    const auto first = window.controls().size();
+    const auto place = static_cast<std::size_t>(index);
+    auto made = panel.grid("Grid1", routeGrids()[place].columns, visibleRows, "gtext", "Dummy1");
     made.grid.index = index;
     made.overlay.index = index;
     made.dummy.index = index;
+    for (auto i = first; i < window.controls().size(); ++i) {
+        if (window.controls()[i]->kind == ControlKind::Label) {
+            window.controls()[i]->name = Headings.at(place);
+        }
+    }
 }
 
-void addCoasting(Window& window, LayoutPanel& panel) {
-    const std::array<std::string_view, 2> captions{"Maintain Min Speed", "Accel from Min Speed"};
-    for (int option = 0; option < 2; ++option) {
-        auto& button = panel.note("rbCoastOpt", captions.at(static_cast<std::size_t>(option)));
-        button.kind = ControlKind::OptionButton;
-        button.index = option;
-    }
-    static_cast<void>(window);
+void addCoasting(LayoutPanel& panel) {
+    panel.area(ControlKind::OptionButton, "rbCoastOpt", "Maintain Min Speed", OptionWidth, OptionHeight, 0);
+    panel.area(ControlKind::OptionButton, "rbCoastOpt", "Accel from Min Speed", OptionWidth, OptionHeight, 1);
 }
 
 /// The lists of the section page and the buttons beside and between them.
@@ -104,32 +112,33 @@ void buildRouteControls(Window& window) {
     for (const auto& caption : Tabs) {
         strip.tabs().tabs.push_back({std::string(caption), true});
     }
-    const auto gridPage = [](int index, std::string_view name, std::string_view title) {
-        return [=](Layout& layout) { addGrid(layout.panel(name, title), index); };
-    };
     const std::vector<StackedLayout::Build> pages{
-        [&](Layout& layout) {
+        [](Layout& layout) {
             auto& schedule = layout.panel("pnlGeneral", "Schedule");
             for (const auto* name : {"tbRtOrigin", "tbDelay", "tbTType1"}) {
                 schedule.field(routeField(name));
             }
             layout.nextColumn();
-            addCoasting(window, layout.panel("fraCoastOpt", "Coasting Option"));
+            addCoasting(layout.panel("fraCoastOpt", "Coasting Option"));
             layout.panel("pnlCoasting", "Coasting").field(routeField("tbVcMin"));
         },
-        gridPage(GroupGrid, "pnlGroups", "Train Groups"),
-        gridPage(TrackGrid, "pnlAlignment", "Alignment"),
-        [](Layout& layout) {
+        [&](Layout& layout) { addGrid(window, layout.panel("pnlGroups", "Train Groups"), GroupGrid); },
+        [&](Layout& layout) {
+            auto& alignment = layout.panel("pnlAlignment", "Alignment");
+            addGrid(window, alignment, TrackGrid, AlignmentRows);
+            alignment.area(ControlKind::Drawing, "Profile", "", ProfileWidth, ProfileHeight);
+        },
+        [&](Layout& layout) {
             auto& passengers = layout.panel("pnlPassengers", "Passengers");
             passengers.field(routeField("tbNpax0"));
             passengers.field(routeField("tbPatWht"));
-            layout.nextBand();
-            addGrid(layout.panel("pnlStops", "Stops"), StopGrid);
+            layout.nextColumn();
+            addGrid(window, layout.panel("pnlStops", "Stops"), StopGrid);
         },
-        [](Layout& layout) {
+        [&](Layout& layout) {
             auto& performance = layout.panel("pnlPerformance", "Performance");
             performance.note("lblPower", "Pwr to Resistor Grid (KW/Train)").alignRight = true;
-            addGrid(performance, PerformanceGrid);
+            addGrid(window, performance, PerformanceGrid);
         },
         [](Layout& layout) { layout.panel("pnlSections", "Route Sections", 40).field(routeField("tbDist0")); },
     };

@@ -1,8 +1,10 @@
 #include "rail/editor/route_editor.hpp"
 
 #include "core/cards/numbers.hpp"
+#include "rail/editor/route_profile.hpp"
 #include "rail/editor/segment_window.hpp"
 #include "shell/entry/menus.hpp"
+#include "shell/entry/scale_form.hpp"
 
 #include <string>
 
@@ -15,7 +17,8 @@ constexpr std::string_view CoastHint = "Mode of train operation upon reaching mi
 
 } // namespace
 
-RouteEditor::RouteEditor(Application& app, Window& window) : app_(app), window_(window), entry_(app, window, Traits) {
+RouteEditor::RouteEditor(Application& app, Window& window)
+    : app_(app), window_(window), data_(app.DataSet), entry_(app, window, Traits) {
     buildRouteControls(window_);
     bindFields();
     for (int index = 0; index < static_cast<int>(overlays_.size()); ++index) {
@@ -25,6 +28,10 @@ RouteEditor::RouteEditor(Application& app, Window& window) : app_(app), window_(
     bindCommands();
     bindEditMenu();
     entry_.bindStandardControls();
+    window_.on.resize = [this] {
+        ScaleForm(app_, window_);
+        redraw();
+    };
     window_.on.queryUnload = [this](bool& cancel) {
         cancel = entry_.flags.FormChanged && !entry_.flags.Cancelled && !SaveRoute();
     };
@@ -113,6 +120,7 @@ void RouteEditor::bindEditMenu() {
             entry_.flags.FormChanged = true;
         }
         pasted();
+        redraw();
     };
     window_.control("ME_Order").enabled = false;
     window_.control("ME_Reverse").enabled = false;
@@ -125,7 +133,7 @@ void RouteEditor::switchOff() {
         tabs().tabs.at(static_cast<std::size_t>(page)).enabled = false;
         gridControl(index).enabled = false;
     };
-    const auto option = app_.DataSet->TPOpt;
+    const auto option = data_->TPOpt;
     if (option == 1) {
         off(RoutePage::Performance, PerformanceGrid);
     }
@@ -155,14 +163,14 @@ void RouteEditor::LoadRoute() {
     show("tbNpax0", plainNumber(values.Npax0));
     window_.control("rbCoastOpt", 0).checked = values.CoastOpt == 0;
     window_.control("rbCoastOpt", 1).checked = values.CoastOpt == 1;
-    show("tbPatWht", app_.DataSet->PatWht.trimmed());
+    show("tbPatWht", data_->PatWht.trimmed());
     route_->TGroupList(grid(GroupGrid));
     route_->TStopList(grid(StopGrid));
     route_->TPerfList(grid(PerformanceGrid));
     route_->TrackList(grid(TrackGrid));
     auto& chosen = window_.control("RtList").items();
     route_->TSectList(chosen);
-    app_.DataSet->Sections.SectShortList(window_.control("PickList").items(), chosen);
+    data_->Sections.SectShortList(window_.control("PickList").items(), chosen);
     redraw();
     app_.desk.setBusy(false);
 }
@@ -187,7 +195,7 @@ bool RouteEditor::SaveRoute() {
 }
 
 void RouteEditor::storeRoute() {
-    app_.DataSet->PatWht = trimLeft(plainNumber(fieldValue(box("tbPatWht"))));
+    data_->PatWht = trimLeft(plainNumber(fieldValue(box("tbPatWht"))));
     cRoute::Values values;
     values.RouteID = box("tbRouteID");
     values.RtOrigin = box("tbRtOrigin");
@@ -327,6 +335,13 @@ void RouteEditor::onMenuCut() {
     }
 }
 
-void RouteEditor::redraw() {}
+void RouteEditor::redraw() {
+    static const Grid none;
+    auto& picture = window_.control("Profile");
+    // Stops that the train performance option has no cards for are no part of the route.
+    const auto& stops = gridControl(StopGrid).enabled ? grid(StopGrid) : none;
+    const auto profile = routeProfileOf(grid(TrackGrid), stops, chartValue(box("tbRtOrigin")));
+    showDrawing(picture, drawRouteProfile(profile, picture.bounds.width, picture.bounds.height));
+}
 
 } // namespace kov

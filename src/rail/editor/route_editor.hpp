@@ -12,8 +12,8 @@
 
 namespace kov {
 
-/// "Route Descriptions", `Route1`: all routes of Form 8, one at a time. The route on screen is copied out of the model when it is
-/// shown and written back when it is left.
+/// "Route Descriptions", `Route1`: all routes of Form 8, one at a time. The route on screen is copied out of the model when it
+/// is shown and written back when it is left.
 class RouteEditor {
 public:
     RouteEditor(Application& app, Window& window);
@@ -46,16 +46,18 @@ private:
     void onDeleteRow(int index);
     void onMenuCut();
     void closing();
+    /// Draws the profile anew from what the window shows now.
     void redraw();
 
     [[nodiscard]] Control& gridControl(int index) { return window_.control("Grid1", index); }
     [[nodiscard]] Grid& grid(int index) { return gridControl(index).grid(); }
     [[nodiscard]] TabPart& tabs() { return window_.control("SSTab1").tabs(); }
     [[nodiscard]] const std::string& box(std::string_view name) { return window_.control(name).text().text; }
-    [[nodiscard]] cRoutes& routes() { return app_.DataSet->Routes; }
+    [[nodiscard]] cRoutes& routes() { return data_->Routes; }
 
     Application& app_;
     Window& window_;
+    std::shared_ptr<KOVDataSet> data_; ///< what the window shows stays alive as long as it shows it
     EntryWindow entry_;
     std::array<std::unique_ptr<GridOverlay>, 4> overlays_;
     std::unique_ptr<RouteSections> sections_;

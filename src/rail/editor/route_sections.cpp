@@ -96,8 +96,10 @@ void RouteSections::onDown() {
 }
 
 void RouteSections::onChangeSign() {
-    const int i = route().index();
-    route().setItem(i, plainNumber(-fieldValue(route().item(i))));
+    // Of the blank entry it makes a 0, which is not saved.
+    if (const int i = route().index(); i >= 0) {
+        route().setItem(i, plainNumber(-fieldValue(route().item(i))));
+    }
     flags_.FormChanged = true;
 }
 

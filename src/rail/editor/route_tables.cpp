@@ -51,8 +51,8 @@ constexpr std::array Tracks{
 constexpr std::array Stops{
     Column{"Front of Train (ft)", "", real(1, 1000000), "Location where Front of Train Stops", "Form 8C, columns 1-10"},
     Column{"Dwell (Sec)", "", real(0, 900), "Dwell Time: 0 to 900 sec", "Form 8C, columns 11-20"},
-    Column{"Persons Entering", "", real(-4000, 4000),
-           "Number of Persons Entering(+) or Leaving(-) the Train: -4000 to 4000", "Form 8C, columns 21-30"},
+    Column{"Persons Entering", "", real(-4000, 4000), "Number of Persons Entering(+) or Leaving(-) the Train: -4000 to 4000",
+           "Form 8C, columns 21-30"},
 };
 
 constexpr std::array Performance{

@@ -2,6 +2,7 @@
 #include "shell/entry/menus.hpp"
 #include "shell/entry/stacked_layout.hpp"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -11,7 +12,10 @@ namespace {
 
 constexpr std::array<std::string_view, 7> Tabs{"&General",    "Heat &Load", "&Resistors", "&Motor",
                                                "&Controller", "&Acc/Decel", "&FlyWheel"};
-constexpr int CaptionCharacters = 20;
+constexpr int CaptionCharacters = 20, CaptionOnOneLine = 40;
+constexpr std::string_view RoomOfSpeed = "0000000000";
+constexpr double Margin = 105, InnerTop = 330, IdentityWidth = 3500, OptionWidth = 2000, OptionHeight = 285, ChartWidth = 3000,
+                 ChartHeight = 1500;
 
 Control& add(Window& window, ControlKind kind, std::string_view name, std::string_view caption = {}) {
     return window.add(kind, std::string(name), std::string(caption));
@@ -98,21 +102,23 @@ void motorPage(Window& window, Layout& layout) {
         addElements(window, motor, trainField("tbMtrSpec", index).caption, "tbMtrSpec", {index, index + 1});
     }
     addElementRows(window, motor, "tbMtrSpec", 6, 6);
-    layout.nextBand();
+    layout.nextColumn();
     auto& curve = layout.panel("pnlCurve", "Performance Curve", CaptionCharacters);
     curve.headings("lblCurve", {"Speed", "Tractive Effort", "Motor Current"});
     for (int point = 0; point < 4; ++point) {
-        addElements(window, curve, "", "tbMtrDat", {4 * point + 1, 4 * point + 2, 4 * point + 3});
+        const int first = 4 * point + 1;
+        addElements(window, curve, "", "tbMtrDat", {first, first + 1, first + 2});
     }
+    curve.area(ControlKind::Drawing, "Curves", "", ChartWidth, ChartHeight);
 }
 
 /// The speeds of the curve, repeated as captions of the line currents.
 void addLineCurrents(Window& window, LayoutPanel& panel) {
-    panel.note("lblLineCurrent", "Speed vs Line Current");
     for (int point = 0; point <= 4; ++point) {
         const auto first = window.controls().size();
-        addElements(window, panel, "0", "tbMtrDat", {4 * point});
+        addElements(window, panel, RoomOfSpeed, "tbMtrDat", {4 * point});
         auto& speed = *window.controls()[first];
+        speed.caption = "0";
         speed.name = "lblCrvSpeed";
         speed.index = point;
     }
@@ -120,23 +126,52 @@ void addLineCurrents(Window& window, LayoutPanel& panel) {
 
 void controllerPage(Window& window, Layout& layout) {
     auto& kind = layout.panel("fraCtrlOpt", "Controller", CaptionCharacters);
-    for (const int option : {1, 2}) {
-        auto& button = kind.note("rbCtrlOpt", option == 1 ? "Cam" : "Chopper");
-        button.kind = ControlKind::OptionButton;
-        button.index = option;
-    }
+    kind.area(ControlKind::OptionButton, "rbCtrlOpt", "Cam", OptionWidth, OptionHeight, 1);
+    kind.area(ControlKind::OptionButton, "rbCtrlOpt", "Chopper", OptionWidth, OptionHeight, 2);
     layout.nextColumn();
-    auto& repeated = layout.panel("pnlMotorID2", "Motor", CaptionCharacters).field(
-        Field{"tbMotorID2", "Motor ID", "", text(), "", nullptr, ""});
+    auto& repeated = layout.panel("pnlMotorID2", "Motor", CaptionCharacters)
+                         .field(Field{"tbMotorID2", "Motor ID", "", text(), "", nullptr, ""});
     repeated.text().locked = true;
     repeated.tabStop = false;
     layout.nextBand();
-    addElementRows(window, layout.panel("pnlCam", "Cam", 40), "tbController", 0, 4);
-    layout.nextColumn();
     auto& chopper = layout.panel("pnlChopper", "Chopper", CaptionCharacters);
     chopper.field(Field{"cbFlyWheel", "Onboard Flywheel", "", checkBox(), "", nullptr, ""});
     addElementRows(window, chopper, "tbChopper", 1, 5);
-    addLineCurrents(window, chopper);
+    layout.nextColumn();
+    addLineCurrents(window, layout.panel("pnlLineCurrent", "Speed vs Line Current", CaptionCharacters));
+}
+
+void flyWheelPage(Window& window, Layout& layout) {
+    addElementRows(window, layout.panel("SSPanel11", "Flywheels"), "tbFlyWheel", 0, 4);
+    layout.nextColumn();
+    addElementRows(window, layout.panel("pnlLosses", "Efficiencies and Losses"), "tbFlyWheel", 5, 11);
+}
+
+/// The panel becomes a part of the one to its left, which grows around it.
+void nest(Control& inner, Control& outer) {
+    auto& place = inner.bounds;
+    outer.bounds.width = place.left + place.width - outer.bounds.left + Twips{Margin};
+    outer.bounds.height = std::max(outer.bounds.height, place.height + Twips{InnerTop + Margin});
+    place.left = place.left - outer.bounds.left;
+    place.top = Twips{InnerTop};
+    inner.parent = &outer;
+    inner.strip = nullptr;
+}
+
+/// The panel of the cam controller stands where that of the chopper does: a train has one of the two.
+void addCamPanel(Window& window, Control& strip) {
+    LayoutPanel panel(window, "pnlCam", "Cam", CaptionOnOneLine);
+    addElementRows(window, panel, "tbController", 0, 4);
+    const auto& chopper = window.control("pnlChopper");
+    panel.place(chopper.bounds.left.value, chopper.bounds.top.value, panel.width());
+    panel.frame().strip = &strip;
+    panel.frame().page = chopper.page;
+}
+
+/// An identification takes 36 characters.
+void widen(Control& box) {
+    const Twips room = box.parent->bounds.width - box.bounds.left - Twips{Margin};
+    box.bounds.width = std::min(room, Twips{IdentityWidth});
 }
 
 } // namespace
@@ -156,13 +191,15 @@ void buildTrainControls(Window& window) {
         [&](Layout& layout) { resistorPage(window, layout); },
         [&](Layout& layout) { motorPage(window, layout); },
         [&](Layout& layout) { controllerPage(window, layout); },
-        [&](Layout& layout) { addElementRows(window, layout.panel("SSPanel10", "Rates", 40), "tbRate", 0, 4); },
-        [&](Layout& layout) {
-            auto& panel = layout.panel("SSPanel11", "Flywheels", 40);
-            addElementRows(window, panel, "tbFlyWheel", 0, 11);
-        },
+        [&](Layout& layout) { addElementRows(window, layout.panel("SSPanel10", "Rates", CaptionOnOneLine), "tbRate", 0, 4); },
+        [&](Layout& layout) { flyWheelPage(window, layout); },
     };
     stack.pages(strip, pages);
+    nest(window.control("pnlLineCurrent"), window.control("pnlChopper"));
+    nest(window.control("pnlLosses"), window.control("SSPanel11"));
+    addCamPanel(window, strip);
+    widen(window.control("tbMotorID"));
+    widen(window.control("tbMotorID2"));
     stack.button("cmdOkay", "OK");
     stack.button("cmdCancel", "Cancel");
     stack.button("cmdHelp", "Help");

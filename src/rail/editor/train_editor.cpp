@@ -1,22 +1,28 @@
 #include "rail/editor/train_editor.hpp"
 
 #include "core/cards/numbers.hpp"
+#include "shell/entry/scale_form.hpp"
 
 #include <string>
 
 namespace kov {
 namespace {
 
-constexpr EntryWindowTraits Traits{"Train Data", "Form 9", 1420, {}, {}};
+constexpr EntryWindowTraits Traits{"Train Data", "Form 9", 1500, {}, {}};
 constexpr int QuestionStyle = 36, WarningStyle = 48, CamButton = 1, ChopperButton = 2;
 
 } // namespace
 
-TrainEditor::TrainEditor(Application& app, Window& window) : app_(app), window_(window), entry_(app, window, Traits) {
+TrainEditor::TrainEditor(Application& app, Window& window)
+    : app_(app), window_(window), data_(app.DataSet), entry_(app, window, Traits) {
     buildTrainControls(window_);
     bindFields();
     bindCommands();
     entry_.bindStandardControls();
+    window_.on.resize = [this] {
+        ScaleForm(app_, window_);
+        redraw();
+    };
     window_.on.queryUnload = [this](bool& cancel) {
         cancel = entry_.flags.FormChanged && !entry_.flags.Cancelled && !SaveTrain();
     };
@@ -33,7 +39,8 @@ TrainEditor::TrainEditor(Application& app, Window& window) : app_(app), window_(
 void TrainEditor::bindFields() {
     auto& strip = window_.control("SSTab1");
     for (const auto& entry : trainFields()) {
-        auto& control = entry.index < 0 ? window_.control(entry.field.control) : window_.control(entry.field.control, entry.index);
+        auto& control =
+            entry.index < 0 ? window_.control(entry.field.control) : window_.control(entry.field.control, entry.index);
         std::function<void()> accepted = [this] { redraw(); };
         if (entry.field.control == "tbMotorID") {
             accepted = [this] { show("tbMotorID2", box("tbMotorID")); };

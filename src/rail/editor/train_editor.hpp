@@ -10,8 +10,8 @@
 
 namespace kov {
 
-/// "Train Data", `Trains`: the train types of Form 9, one at a time, on seven pages. The train on screen is copied out of the model
-/// when it is shown and written back when it is left.
+/// "Train Data", `Trains`: the train types of Form 9, one at a time, on seven pages. The train on screen is copied out of the
+/// model when it is shown and written back when it is left.
 class TrainEditor {
 public:
     TrainEditor(Application& app, Window& window);
@@ -36,6 +36,7 @@ private:
     [[nodiscard]] bool SaveTrain();
     void storeBody(cTrain& train);
     void storeMotor(cTrain& train);
+    [[nodiscard]] cMotor::CurveTexts curveTexts();
     void storeChopper(cTrain& train);
 
     void onNext();
@@ -49,6 +50,7 @@ private:
     void onController(int option);
     void onFlyWheel();
     void closing();
+    /// Draws the performance curve anew from what the window shows now.
     void redraw();
 
     void show(std::string_view control, std::string_view value) { window_.control(control).setText(value); }
@@ -57,11 +59,12 @@ private:
     [[nodiscard]] const std::string& box(std::string_view control, int index) {
         return window_.control(control, index).text().text;
     }
-    [[nodiscard]] cTrains& trains() { return app_.DataSet->Trains; }
-    [[nodiscard]] std::int16_t trainOption() const { return app_.DataSet->TPOpt; }
+    [[nodiscard]] cTrains& trains() { return data_->Trains; }
+    [[nodiscard]] std::int16_t trainOption() const { return data_->TPOpt; }
 
     Application& app_;
     Window& window_;
+    std::shared_ptr<KOVDataSet> data_; ///< what the window shows stays alive as long as it shows it
     EntryWindow entry_;
     std::int16_t TrnIndex = 1; // counted from 1
     std::shared_ptr<cTrain> train_;

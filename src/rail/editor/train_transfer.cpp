@@ -1,6 +1,7 @@
 #include "rail/editor/train_editor.hpp"
 
 #include "core/cards/numbers.hpp"
+#include "rail/editor/motor_chart.hpp"
 
 #include <string>
 
@@ -126,10 +127,10 @@ void TrainEditor::repeatSpeeds() {
 void TrainEditor::storeBody(cTrain& train) {
     train.SetPhysical({box("tbTrainId"), box("tbNCars"), box("tbNPwrd"), box("tbNMtr"), box("tbTLength"), box("tbAFront"),
                        box("tbPerim"), box("tbCwt")});
-    train.setResist({box("tbCSkin"), box("tbCTruck"), box("tbCFront"), box("tbCRR1"), box("tbCRR2"), box("tbCRR3"),
-                     box("tbARRP")});
-    train.setHtLoads({box("tbSensAuxE"), box("tbLatentAuxE"), box("tbSensPac"), box("tbLatentPac"), box("tbPwrAuxE"),
-                      box("tbPwrPac")});
+    train.setResist(
+        {box("tbCSkin"), box("tbCTruck"), box("tbCFront"), box("tbCRR1"), box("tbCRR2"), box("tbCRR3"), box("tbARRP")});
+    train.setHtLoads(
+        {box("tbSensAuxE"), box("tbLatentAuxE"), box("tbSensPac"), box("tbLatentPac"), box("tbPwrAuxE"), box("tbPwrPac")});
     cTrain::GridTexts grids;
     for (std::size_t i = 0; i < grids.size(); ++i) {
         grids.at(i) = box("tbAccRg", static_cast<int>(i));
@@ -144,11 +145,7 @@ void TrainEditor::storeMotor(cTrain& train) {
         specs.MtrSpecs.at(i) = box("tbMtrSpec", static_cast<int>(i));
     }
     train.Motor.setMtrSpecs(specs);
-    cMotor::CurveTexts curve;
-    for (std::size_t i = 0; i < curve.size(); ++i) {
-        curve.at(i) = box("tbMtrDat", static_cast<int>(i) + 1);
-    }
-    train.Motor.setMtrData(curve);
+    train.Motor.setMtrData(curveTexts());
     if (train.Motor.CtrlOpt == cMotor::CamControl) {
         cMotor::CamData data;
         for (std::size_t i = 0; i < data.size(); ++i) {
@@ -183,6 +180,17 @@ void TrainEditor::storeChopper(cTrain& train) {
     train.FlyWheel.setFlyWheel(texts);
 }
 
-void TrainEditor::redraw() {}
+cMotor::CurveTexts TrainEditor::curveTexts() {
+    cMotor::CurveTexts curve;
+    for (std::size_t i = 0; i < curve.size(); ++i) {
+        curve.at(i) = box("tbMtrDat", static_cast<int>(i) + 1);
+    }
+    return curve;
+}
+
+void TrainEditor::redraw() {
+    auto& picture = window_.control("Curves");
+    showDrawing(picture, drawMotorChart(motorChartOf(curveTexts()), picture.bounds.width, picture.bounds.height));
+}
 
 } // namespace kov

@@ -52,6 +52,7 @@ bool takesFont(ControlKind kind) {
     case ControlKind::Line:
     case ControlKind::Panel:
     case ControlKind::Image:
+    case ControlKind::Drawing: // its texts have the room that the drawing left them
     case ControlKind::Progress:
     case ControlKind::Menu:
     case ControlKind::Timer:

@@ -87,10 +87,13 @@ void FanTable::wire() {
 std::shared_ptr<cVShaft> FanTable::shaftOf(int row) const { return shafts_.at(Position{row + 1}); }
 
 bool FanTable::openList(int row, int col) {
+    if (row >= shafts_.count()) {
+        return true; // the empty row of a table without fans belongs to no shaft
+    }
     if (col == StartColumn || col == StopColumn) {
         return false;
     }
-    if ((col == TypeColumn || col == StatusColumn) && row < shafts_.count()) {
+    if (col == TypeColumn || col == StatusColumn) {
         auto& list = window_.control(col == TypeColumn ? "cbFType" : "cbFStat");
         const auto shaft = shaftOf(row);
         const int entry = col == TypeColumn ? shaft->FanType : shaft->FanDir + 1;

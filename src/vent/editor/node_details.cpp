@@ -78,7 +78,12 @@ void NodeDetails::wireTypes() {
 void NodeDetails::wireCommands() {
     const auto close = [this] { app_.desk.unload(window_); };
     window_.control("cmdDone").on.click = close;
-    window_.control("ME_Exit").on.click = close;
+    // A menu doesn't move the focus: the field that is being typed in is left here, as a click on the button leaves it.
+    window_.control("ME_Exit").on.click = [this, close] {
+        if (app_.desk.leave(window_)) {
+            close();
+        }
+    };
     window_.control("ME_Cut").on.click = [this] { onCut(); };
     window_.control("ME_Copy").on.click = [this] { onCopy(); };
     window_.control("ME_Paste").on.click = [this] { onPaste(); };

@@ -63,7 +63,12 @@ void VentShafts::wireFields() {
     }
     // A typed number is no entry of the list any more.
     auto& fans = window_.control("cbFanType");
-    fans.on.change = [&fans] { fans.items().setIndex(-1); };
+    fans.on.change = [&fans] {
+        auto& items = fans.items();
+        if (items.index() >= 0 && items.item(items.index()) != fans.text().text) {
+            items.setIndex(-1);
+        }
+    };
     window_.control("cmdFan").on.click = [this] { onFans(); };
 }
 
