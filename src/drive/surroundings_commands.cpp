@@ -62,6 +62,9 @@ Act process(Arguments& arguments) {
         return [number, description](Stage& stage) { stage.around.processes.queueError({number, description}); };
     }
     const int code = arguments.number("the exit code");
+    if (code == StillActive) {
+        throw SyntaxError("exit code 259 means that the program is still running"); // it would be waited for without end
+    }
     const int polls = arguments.empty() ? 0 : arguments.count("how often it is still running");
     return [code, polls](Stage& stage) { stage.around.processes.queueExit(code, polls); };
 }

@@ -86,6 +86,20 @@ bool Control::focusable() const {
 
 std::string Control::label() const { return index ? name + "(" + std::to_string(*index) + ")" : name; }
 
+void revealCurrentRow(Control& control) {
+    auto& grid = control.grid();
+    const int row = grid.row();
+    if (control.bounds.height.value <= 0 || row < grid.fixedRows()) {
+        return;
+    }
+    constexpr double Border = 2 * Twips::PerPixel, ScrollBar = 17 * Twips::PerPixel;
+    const auto width = grid.colPos(grid.cols() - 1) + grid.colWidth(grid.cols() - 1);
+    const double height = control.bounds.height.value - Border - (width > control.bounds.width ? ScrollBar : 0);
+    const int rows = std::max(static_cast<int>(height / grid.rowHeight().value), grid.fixedRows() + 1);
+    const int first = std::min(grid.topRow(), row - grid.fixedRows());
+    grid.setTopRow(std::max(first, row - rows + 1));
+}
+
 std::string plainCaption(std::string_view caption) {
     std::string plain;
     for (std::size_t i = 0; i < caption.size(); ++i) {

@@ -218,6 +218,9 @@ struct Control {
     [[nodiscard]] std::string label() const;
 };
 
+/// Scrolls a grid so far that its current row is whole in sight; a grid without a height is left alone.
+void revealCurrentRow(Control& grid);
+
 /// The caption as a person reads it: without the `&` of its key, "&&" being one.
 [[nodiscard]] std::string plainCaption(std::string_view caption);
 

@@ -100,7 +100,7 @@ public:
     // The program's own moves.
     /// Keystrokes to the focused control, at once: "^X", "^C", "^V", "{right}", "{INSERT}", "{DEL}", or characters.
     void sendKeys(std::string_view keystrokes);
-    /// Moves a grid to a cell; it hears of it when that is another cell.
+    /// Moves a grid to a cell, which is in sight then; it hears of it when that is another cell.
     void moveCell(Control& grid, int row, int col);
 
     // Shared surroundings.

@@ -77,6 +77,7 @@ void Desk::moveCell(Control& control, int row, int col) {
     grid.setRow(row);
     grid.setCol(col);
     grid.select({row, row, col, col});
+    revealCurrentRow(control);
     if (moved) {
         raise(control.on.cellChange);
     }
@@ -94,7 +95,9 @@ bool Desk::cell(Control& control, int row, int col) {
         }
         // What the old control's commit removed can't be clicked any more.
         const int lastRow = grid.rows() - 1;
-        moveCell(control, std::clamp(row, std::min(grid.fixedRows(), lastRow), lastRow), std::max(col, grid.fixedCols()));
+        const int lastCol = grid.cols() - 1;
+        moveCell(control, std::clamp(row, std::min(grid.fixedRows(), lastRow), lastRow),
+                 std::clamp(col, std::min(grid.fixedCols(), lastCol), lastCol));
         if (focus_ != nullptr && focus_->window == control.window) {
             raise(control.on.click);
         }
@@ -113,12 +116,14 @@ void Desk::choose(Control& list, int entry) {
 bool Desk::select(Control& list, std::span<const int> entries) {
     return attempt([&] {
         auto& items = list.items();
-        const bool inside = std::all_of(entries.begin(), entries.end(), [&](int i) { return i >= 0 && i < items.count(); });
-        if (!inside || !list.focusable() || !reachable(*list.window)) {
+        const auto inside = [&] {
+            return std::all_of(entries.begin(), entries.end(), [&](int i) { return i >= 0 && i < items.count(); });
+        };
+        if (!inside() || !list.focusable() || !reachable(*list.window)) {
             return false;
         }
-        if (!setFocus(list)) {
-            return true;
+        if (!setFocus(list) || !list.shown() || !list.usable() || !inside()) {
+            return true; // held back, or what the old control did on its way out took the entry from under the pointer
         }
         const auto* box = std::get_if<ListPart>(&list.part);
         if (box != nullptr && box->multiSelect) {
@@ -145,11 +150,11 @@ bool Desk::chooseTab(Control& strip, int tab) {
     return attempt([&] {
         auto& tabs = strip.tabs();
         const auto index = static_cast<std::size_t>(tab);
-        if (tab < 0 || index >= tabs.tabs.size() || !tabs.tabs[index].enabled || !strip.focusable() ||
-            !reachable(*strip.window)) {
+        const auto available = [&] { return tab >= 0 && index < tabs.tabs.size() && tabs.tabs[index].enabled; };
+        if (!available() || !strip.focusable() || !reachable(*strip.window)) {
             return false;
         }
-        if (!setFocus(strip)) {
+        if (!setFocus(strip) || !available()) {
             return true;
         }
         tabs.current = tab;
@@ -163,7 +168,7 @@ bool Desk::spin(Control& button, bool up) {
         if (!button.focusable() || !reachable(*button.window)) {
             return false;
         }
-        if (setFocus(button)) {
+        if (setFocus(button) && button.shown() && button.usable()) {
             raise(up ? button.on.spinUp : button.on.spinDown);
         }
         return true;

@@ -86,9 +86,22 @@ bool typeInto(TextPart& box, int character) {
     return character >= keys::Space && insertText(box, std::string(1, static_cast<char>(character)));
 }
 
-/// What a box takes of a text from the clipboard: a single line ends where the first line ends.
-std::string_view pasted(const TextPart& box, std::string_view text) {
-    return box.multiLine ? text : text.substr(0, text.find_first_of("\r\n"));
+/// What a box takes of a text from the clipboard: a single line ends where the first line ends; in several lines each ends with
+/// CR LF, whatever it came with.
+std::string pasted(const TextPart& box, std::string_view text) {
+    if (!box.multiLine) {
+        return std::string(text.substr(0, text.find_first_of("\r\n")));
+    }
+    std::string lines;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' || text[i] == '\n') {
+            lines += "\r\n";
+            i += text.substr(i, 2) == "\r\n" ? 1U : 0U;
+        } else {
+            lines += text[i];
+        }
+    }
+    return lines;
 }
 
 } // namespace

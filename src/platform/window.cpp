@@ -81,7 +81,9 @@ Control* Window::nextInTabOrder(const Control* from, bool backwards) const {
     for (int step = 1; step <= count; ++step) {
         const int place = (((backwards ? start - step : start + step) % count) + count) % count;
         auto* candidate = controls_[static_cast<std::size_t>(place)].get();
-        if (candidate->tabStop && candidate->focusable()) {
+        // From the tabs Tab goes into their current page: another page's control would turn the page away again.
+        const bool turnsAway = from != nullptr && from->kind == ControlKind::TabStrip && !candidate->onCurrentPage();
+        if (candidate->tabStop && candidate->focusable() && !turnsAway) {
             return candidate;
         }
     }

@@ -2,6 +2,7 @@
 #include "core/dataset/dataset.hpp"
 #include "core/dataset/progress.hpp"
 #include "tool/commands.hpp"
+#include "tool/store_whole.hpp"
 
 #include <cstdio>
 #include <exception>
@@ -54,15 +55,6 @@ std::optional<std::string> contentOf(const std::string& path) {
     return std::ferror(file.get()) == 0 ? std::optional(std::move(content)) : std::nullopt;
 }
 
-bool store(const std::string& path, std::string_view content) {
-    File file(std::fopen(path.c_str(), "wb"));
-    if (!file) {
-        return false;
-    }
-    const bool written = std::fwrite(content.data(), 1, content.size(), file.get()) == content.size();
-    return std::fclose(file.release()) == 0 && written;
-}
-
 int fail(int code, const std::string& message) {
     std::cerr << "kovtool: " << message << '\n';
     return code;
@@ -86,7 +78,7 @@ int rewrite(const std::string& in, const std::string& out, bool partial) {
     if (!done && !partial) {
         return ExitReadFailed;
     }
-    // OUT is opened only when its whole content stands: it may be IN, and a failure must leave it alone.
+    // OUT is touched only when its whole content stands: it may be IN, and a failure must leave it alone.
     CardWriter writer(dataSet.lineEnd.empty() ? "\n" : std::string_view(dataSet.lineEnd));
     writer.reserve(2 * size);
     try {
@@ -94,7 +86,7 @@ int rewrite(const std::string& in, const std::string& out, bool partial) {
     } catch (const std::exception& error) {
         return fail(ExitUnhandledFailure, std::string("writing failed: ") + error.what());
     }
-    if (!store(out, writer.content())) {
+    if (!storeWhole(out, writer.content())) {
         return fail(ExitUsage, "can't write " + out);
     }
     return done ? ExitDone : ExitReadFailed;

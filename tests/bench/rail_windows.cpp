@@ -33,9 +33,15 @@ void fill(KOVDataSet& data, kov::MessageSink& messages, int sections) {
         section->id = static_cast<std::int16_t>(number);
         section->setNLSegs(1, messages);
     }
+    kov::ItemList travelled;
+    for (int number = 1; number <= sections; ++number) {
+        travelled.addItem(std::to_string(number));
+    }
+    travelled.addItem(" ");
     for (const auto* name : {"Eastbound", "Westbound"}) {
         const auto route = data.Routes.Add(Position{0});
         route->RouteID = name;
+        route->TSectSave(travelled);
         for (int number = 1; number <= sections; ++number) {
             route->Tracks.append(track(number));
         }

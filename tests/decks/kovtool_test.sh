@@ -63,6 +63,42 @@ expect 1 rewrite "$dir/groups.kov" "$dir/old.kov"
 expect 3 rewrite --partial "$dir/groups.kov" "$dir/old.kov"
 [ "$(cat "$dir/old.kov")" = "precious" ] || complain "a failed writing touched its output"
 
+# A disc that takes no more leaves OUT as it was, also where it is IN, and nothing beside it. The limit of a file's size stands
+# for the full disc here.
+expect_full() {
+    (
+        trap '' XFSZ
+        ulimit -f 1
+        exec "$tool" rewrite "$1" "$2"
+    ) 2>"$dir/err"
+    got=$?
+    [ "$got" -eq 2 ] || complain "no room for $2: exit $got, not 2: $(cat "$dir/err")"
+    grep -q "can't write" "$dir/err" || complain "no room for $2: nothing told"
+}
+mkdir "$dir/full"
+cp "$samples/two-station-line.kov" "$dir/full/deck.kov"
+expect_full "$dir/full/deck.kov" "$dir/full/deck.kov"
+same "$samples/two-station-line.kov" "$dir/full/deck.kov"
+expect_full "$dir/full/deck.kov" "$dir/full/new.kov"
+[ "$(ls "$dir/full")" = "deck.kov" ] || complain "a full disc left something behind: $(ls "$dir/full")"
+[ ! -e /dev/full ] || expect 2 rewrite "$samples/two-station-line.kov" /dev/full
+
+# OUT keeps its permissions, a link stays a link, and a device is written to as it is.
+cp "$samples/two-station-line.kov" "$dir/kept.kov"
+chmod 640 "$dir/kept.kov"
+ln -s kept.kov "$dir/link.kov"
+expect 0 rewrite "$samples/ventilation-only.kov" "$dir/link.kov"
+same "$samples/ventilation-only.kov" "$dir/kept.kov"
+[ -L "$dir/link.kov" ] || complain "the link was replaced"
+[ "$(ls -l "$dir/kept.kov" | cut -c1-10)" = "-rw-r-----" ] || complain "the permissions were changed"
+mkfifo "$dir/pipe"
+cat "$dir/pipe" >"$dir/piped.kov" &
+expect 0 rewrite "$samples/ventilation-only.kov" "$dir/pipe"
+wait $!
+same "$samples/ventilation-only.kov" "$dir/piped.kov"
+expect 0 rewrite "$samples/ventilation-only.kov" /dev/stdout
+same "$samples/ventilation-only.kov" "$dir/out"
+
 # What can't be opened or written, and wrong usage.
 expect 2 rewrite "$dir/no such file.kov" "$dir/nothing.kov"
 expect 2 rewrite "$dir" "$dir/nothing.kov"

@@ -27,13 +27,16 @@ protected:
 
 TEST_P(AJunctionDiagram, HasFourPixelsForEachOneOfTheDesignSoThatItStaysCrisp) {
     QImageReader reader(path());
+    reader.setDecideFormatFromContent(true);
     ASSERT_TRUE(reader.canRead()) << path().toStdString();
     EXPECT_GE(reader.size().width(), 4 * DesignWidth);
     EXPECT_GE(reader.size().height(), 4 * DesignHeight);
 }
 
 TEST_P(AJunctionDiagram, BringsItsLightGroundAndDarkWallsAlong) {
-    const auto picture = QImageReader(path()).read();
+    QImageReader reader(path());
+    reader.setDecideFormatFromContent(true);
+    const auto picture = reader.read();
     ASSERT_FALSE(picture.isNull());
     int dark = 0;
     for (int y = 0; y < picture.height(); ++y) {

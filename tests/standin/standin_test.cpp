@@ -69,6 +69,17 @@ TEST_F(StandIn, readsTheDeckOfTheWholeMissionAndListsWhatIsInIt) {
     }
 }
 
+TEST_F(StandIn, readsTheDeckOfTheLineNetworkWithItsShaftsFansAndNodes) {
+    const auto input = folder_ / "network.kov";
+    fs::copy_file(fs::path(KOV_SOURCE_DIR) / "tests" / "scenarios" / "files" / "vent-network-deck.kov", input);
+    EXPECT_EQ(run(input), 100);
+    const auto listing = contentOf(folder_ / "network.prn");
+    for (const auto* const line : {"Line sections   20", "Line segments   60", "Vent sections   3", "Nodes           24",
+                                   "Fans            2", "Impulse fans    2", "Input verification successful"}) {
+        EXPECT_NE(listing.find(std::string(line) + "\n"), std::string::npos) << line << "\n" << listing;
+    }
+}
+
 TEST_F(StandIn, exitsWithTheNumberOfTheFormThatCannotBeRead) { EXPECT_EQ(run(copyOfSample("only an identification\n")), 1); }
 
 TEST_F(StandIn, exitsWith101WhenThereIsNoInputFile) { EXPECT_EQ(run(folder_ / "none.kov"), 101); }

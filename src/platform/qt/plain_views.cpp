@@ -115,6 +115,8 @@ private:
         auto name = toQt(path);
         name.replace(QLatin1Char('\\'), QLatin1Char('/'));
         QImageReader reader(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(name));
+        // By its name alone a ".dib" would be one without the head that picture files have.
+        reader.setDecideFormatFromContent(true);
         const auto ratio = label_->devicePixelRatioF();
         if (const auto whole = reader.size(); whole.isValid()) {
             reader.setScaledSize(whole.scaled((QSizeF(label_->size()) * ratio).toSize(), Qt::KeepAspectRatio));

@@ -109,6 +109,7 @@ void RouteEditor::bindCommands() {
 
 void RouteEditor::bindEditMenu() {
     std::vector<EditedGrid> edited;
+    edited.reserve(overlays_.size());
     for (int index = 0; index < static_cast<int>(overlays_.size()); ++index) {
         edited.push_back({gridControl(index), window_.control("gtext", index), *overlays_.at(static_cast<std::size_t>(index))});
     }

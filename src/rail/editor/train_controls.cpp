@@ -14,8 +14,9 @@ constexpr std::array<std::string_view, 7> Tabs{"&General",    "Heat &Load", "&Re
                                                "&Controller", "&Acc/Decel", "&FlyWheel"};
 constexpr int CaptionCharacters = 20, CaptionOnOneLine = 40;
 constexpr std::string_view RoomOfSpeed = "0000000000";
-constexpr double Margin = 105, InnerTop = 330, IdentityWidth = 3500, OptionWidth = 2000, OptionHeight = 285, ChartWidth = 3000,
-                 ChartHeight = 1500;
+// An identification has 36 characters.
+constexpr double Margin = 105, InnerTop = 330, IdentityWidth = 2850, IdentityHeight = 315, OptionWidth = 2000,
+                 OptionHeight = 285, ChartWidth = 4900, ChartHeight = 2040;
 
 Control& add(Window& window, ControlKind kind, std::string_view name, std::string_view caption = {}) {
     return window.add(kind, std::string(name), std::string(caption));
@@ -45,13 +46,18 @@ void addFields(LayoutPanel& panel, std::initializer_list<std::string_view> names
     }
 }
 
-/// Boxes of one row behind one caption, as elements of their array.
+/// Boxes of one row behind one caption, as elements of their array. The unit of the first stands behind them unless they have
+/// different ones.
 void addElements(Window& window, LayoutPanel& panel, std::string_view caption, std::string_view array,
-                 std::initializer_list<int> indices) {
+                 std::initializer_list<int> indices, bool oneUnit = true) {
     const auto first = window.controls().size();
     std::vector<Field> fields;
+    fields.reserve(indices.size());
     for (const int index : indices) {
         fields.push_back(trainField(array, index));
+        if (!oneUnit) {
+            fields.back().unit = {};
+        }
     }
     panel.boxes(caption, fields);
     const auto* next = indices.begin();
@@ -95,21 +101,24 @@ void resistorPage(Window& window, Layout& layout) {
 }
 
 void motorPage(Window& window, Layout& layout) {
-    auto& motor = layout.panel("pnlMotor", "Motor", CaptionCharacters);
-    motor.field(trainField("tbMotorID"));
-    motor.headings("lblSpecs", {"Manuf. Data", "Actual"});
-    for (const int index : {0, 2, 4}) {
-        addElements(window, motor, trainField("tbMtrSpec", index).caption, "tbMtrSpec", {index, index + 1});
-    }
-    addElementRows(window, motor, "tbMtrSpec", 6, 6);
+    auto& identity = layout.panel("pnlMotor", "Motor");
+    identity.note("lblMotorID", trainField("tbMotorID").caption);
+    identity.area(ControlKind::TextBox, "tbMotorID", "", IdentityWidth, IdentityHeight);
     layout.nextColumn();
-    auto& curve = layout.panel("pnlCurve", "Performance Curve", CaptionCharacters);
+    auto& motor = layout.panel("pnlSpecs", "Specifications", CaptionCharacters);
+    motor.headings("lblSpecs", {"Wheel Diam. (in)", "Gear Ratio", "Supply (volts)", "Terminal (volts)"});
+    addElements(window, motor, "Manuf. Data", "tbMtrSpec", {0, 1, 2}, false);
+    addElements(window, motor, "Actual", "tbMtrSpec", {3, 4, 5, 6}, false);
+    layout.nextBand();
+    auto& curve = layout.panel("pnlCurve", "Performance Curve (MPH, lb, amps)", CaptionCharacters);
     curve.headings("lblCurve", {"Speed", "Tractive Effort", "Motor Current"});
     for (int point = 0; point < 4; ++point) {
         const int first = 4 * point + 1;
-        addElements(window, curve, "", "tbMtrDat", {first, first + 1, first + 2});
+        addElements(window, curve, "", "tbMtrDat", {first, first + 1, first + 2}, false);
     }
-    curve.area(ControlKind::Drawing, "Curves", "", ChartWidth, ChartHeight);
+    layout.nextColumn();
+    layout.panel("pnlPicture", "Effort and Current over Speed")
+        .area(ControlKind::Drawing, "Curves", "", ChartWidth, ChartHeight);
 }
 
 /// The speeds of the curve, repeated as captions of the line currents.
@@ -129,10 +138,13 @@ void controllerPage(Window& window, Layout& layout) {
     kind.area(ControlKind::OptionButton, "rbCtrlOpt", "Cam", OptionWidth, OptionHeight, 1);
     kind.area(ControlKind::OptionButton, "rbCtrlOpt", "Chopper", OptionWidth, OptionHeight, 2);
     layout.nextColumn();
-    auto& repeated = layout.panel("pnlMotorID2", "Motor", CaptionCharacters)
-                         .field(Field{"tbMotorID2", "Motor ID", "", text(), "", nullptr, ""});
+    auto& repeated =
+        layout.panel("pnlMotorID2", "Motor ID").area(ControlKind::TextBox, "tbMotorID2", "", IdentityWidth, IdentityHeight);
     repeated.text().locked = true;
     repeated.tabStop = false;
+    LayoutPanel cam(window, "pnlCam", "Cam", CaptionOnOneLine);
+    addElementRows(window, cam, "tbController", 0, 4);
+    cam.place(0, 0, cam.width());
     layout.nextBand();
     auto& chopper = layout.panel("pnlChopper", "Chopper", CaptionCharacters);
     chopper.field(Field{"cbFlyWheel", "Onboard Flywheel", "", checkBox(), "", nullptr, ""});
@@ -158,20 +170,23 @@ void nest(Control& inner, Control& outer) {
     inner.strip = nullptr;
 }
 
-/// The panel of the cam controller stands where that of the chopper does: a train has one of the two.
-void addCamPanel(Window& window, Control& strip) {
-    LayoutPanel panel(window, "pnlCam", "Cam", CaptionOnOneLine);
-    addElementRows(window, panel, "tbController", 0, 4);
-    const auto& chopper = window.control("pnlChopper");
-    panel.place(chopper.bounds.left.value, chopper.bounds.top.value, panel.width());
-    panel.frame().strip = &strip;
-    panel.frame().page = chopper.page;
+/// The specifications are entered in the order of their cards, manufacturer's and actual value by turns, and seen in two rows.
+void arrangeSpecifications(Window& window) {
+    constexpr std::array PlaceOf{0, 3, 1, 4, 2, 5, 6};
+    std::array<Bounds, PlaceOf.size()> places;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        places.at(i) = window.control("tbMtrSpec", static_cast<int>(i)).bounds;
+    }
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        window.control("tbMtrSpec", static_cast<int>(i)).bounds = places.at(static_cast<std::size_t>(PlaceOf.at(i)));
+    }
 }
 
-/// An identification takes 36 characters.
-void widen(Control& box) {
-    const Twips room = box.parent->bounds.width - box.bounds.left - Twips{Margin};
-    box.bounds.width = std::min(room, Twips{IdentityWidth});
+/// The panel of the cam controller stands where that of the chopper does: a train has one of the two.
+void placeCamPanel(Window& window) {
+    auto& cam = window.control("pnlCam").bounds;
+    cam.left = window.control("pnlChopper").bounds.left;
+    cam.top = window.control("pnlChopper").bounds.top;
 }
 
 } // namespace
@@ -197,9 +212,8 @@ void buildTrainControls(Window& window) {
     stack.pages(strip, pages);
     nest(window.control("pnlLineCurrent"), window.control("pnlChopper"));
     nest(window.control("pnlLosses"), window.control("SSPanel11"));
-    addCamPanel(window, strip);
-    widen(window.control("tbMotorID"));
-    widen(window.control("tbMotorID2"));
+    placeCamPanel(window);
+    arrangeSpecifications(window);
     stack.button("cmdOkay", "OK");
     stack.button("cmdCancel", "Cancel");
     stack.button("cmdHelp", "Help");

@@ -20,7 +20,8 @@ std::string GridRowText(const Grid& grid) {
     return text;
 }
 
-void LayOverCell(Application& app, const Control& gridControl, Control& control) {
+void LayOverCell(Application& app, Control& gridControl, Control& control) {
+    revealCurrentRow(gridControl);
     const auto& grid = gridControl.grid();
     app.GridRow = grid.row();
     app.GridCol = grid.col();
@@ -34,7 +35,7 @@ void LayOverCell(Application& app, const Control& gridControl, Control& control)
     control.visible = true;
 }
 
-void OpenCell(Application& app, const Control& gridControl, Control& box) {
+void OpenCell(Application& app, Control& gridControl, Control& box) {
     LayOverCell(app, gridControl, box);
     box.setText(trimRight(gridControl.grid().currentText()));
     box.selectText(0, static_cast<int>(box.text().text.size()));
@@ -159,7 +160,11 @@ void GridOverlay::moveOn(int row, int col) {
     grid().setCol(col);
     grid().select({row, row, col, col});
     const bool another = grid().row() != app_.GridRow || grid().col() != app_.GridCol;
-    if (app_.desk.setFocus(grid_) && another && grid_.on.cellChange) {
+    if (!app_.desk.setFocus(grid_)) {
+        return;
+    }
+    revealCurrentRow(grid_);
+    if (another && grid_.on.cellChange) {
         const auto changed = grid_.on.cellChange;
         changed();
     }
@@ -247,10 +252,10 @@ void GridOverlay::commit() {
 }
 
 void GridOverlay::goRight(int row, int col) {
-    wentRight_ = dummy_ != nullptr && app_.desk.focus() == dummy_;
     if (col >= grid().cols() - 1) {
         return;
     }
+    wentRight_ = dummy_ != nullptr && app_.desk.focus() == dummy_;
     if (!rules_.opensOnSelect) {
         app_.desk.moveCell(grid_, row, col + 1);
         return;

@@ -14,11 +14,11 @@ namespace kov {
 [[nodiscard]] std::string GridRowText(const Grid& grid);
 
 /// Lays a box over the current cell of a grid, with the cell's text selected, and records the cell in `GridRow`, `GridCol`.
-void OpenCell(Application& app, const Control& grid, Control& box);
+void OpenCell(Application& app, Control& grid, Control& box);
 
-/// Lays any control over the current cell of a grid, as `OpenCell` does, and makes it visible. A drop-down list keeps its
-/// height.
-void LayOverCell(Application& app, const Control& grid, Control& control);
+/// Lays any control over the current cell of a grid, as `OpenCell` does, and makes it visible; the cell is scrolled into sight.
+/// A drop-down list keeps its height.
+void LayOverCell(Application& app, Control& grid, Control& control);
 
 /// How a window's grid differs from the common way.
 struct OverlayRules {

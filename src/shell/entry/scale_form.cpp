@@ -65,7 +65,9 @@ bool takesFont(ControlKind kind) {
 } // namespace
 
 void ScaleForm(const Application& app, Window& window) {
-    if (window.minimized || window.oldW.value <= 0 || window.oldH.value <= 0) {
+    const auto isEmpty = [](Twips width, Twips height) { return width.value <= 0 || height.value <= 0; };
+    // From nothing there is no way back to a size, so the tags keep the last one that can be scaled from.
+    if (window.minimized || isEmpty(window.oldW, window.oldH) || isEmpty(window.bounds.width, window.bounds.height)) {
         return;
     }
     const Ratio ratio{window.bounds.width.value / window.oldW.value, window.bounds.height.value / window.oldH.value};

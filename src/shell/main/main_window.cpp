@@ -198,7 +198,7 @@ void MainWindow::onFont() {
     request.fontName = app_.UserFontName;
     request.fontSize = app_.UserFontSize;
     const auto result = app_.desk.services().dialogs.show(request);
-    if (result.error != DialogCancelled) {
+    if (result.error == 0) { // after a cancel or an error the dialog holds what it was given
         app_.UserFontName = result.fontName;
         app_.UserFontSize = toInt16(result.fontSize);
     }

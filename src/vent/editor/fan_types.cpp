@@ -166,7 +166,7 @@ void FanTypes::ShowData() {
     FanNo_ = FanNo_ < 1 ? std::int16_t{1} : FanNo_;
     ThisFan_ = fans_.Fan(Position{FanNo_});
     const auto& values = ThisFan_->getFan();
-    window_.control("tbFanNo").setText(bareNumber(FanNo_));
+    window_.control("tbFanNo").setText(plainNumber(FanNo_));
     window_.control("tbFanId").setText(values.id.view());
     for (const auto& member : Members) {
         window_.control(member.control).setText((values.*member.value).view());

@@ -91,7 +91,7 @@ void ImpulseFans::ShowData() {
     FanNo_ = FanNo_ < 1 ? std::int16_t{1} : FanNo_;
     ThisFan_ = fans_.IFan(Position{FanNo_});
     const auto& values = ThisFan_->GetIFan();
-    window_.control("tbFanNo").setText(bareNumber(FanNo_));
+    window_.control("tbFanNo").setText(plainNumber(FanNo_));
     window_.control("tbFanQ").setText(values.FanQ.view());
     window_.control("tbFEff").setText(values.Feff.view());
     window_.control("tbFVel").setText(values.fVel.view());

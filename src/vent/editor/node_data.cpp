@@ -187,12 +187,13 @@ void NodeDetails::onAeroType() {
     if (entry < 0) {
         return;
     }
-    const auto chosen = AeroTypes.at(static_cast<std::size_t>(entry));
-    ThisNode_->setAType(chosen);
+    ThisNode_->setAType(AeroTypes.at(static_cast<std::size_t>(entry)));
+    // A node of a type that is in no list keeps it, whatever was chosen.
+    const auto aero = ThisNode_->AType();
     const auto thermo = ThisNode_->TType();
-    const bool fits = chosen == Straight                                  ? thermo != PartialMixing
-                      : chosen == Crossover || chosen == NoPressureChange ? thermo != Boundary
-                                                                          : thermo == Mixing;
+    const bool fits = aero == Straight                                ? thermo != PartialMixing
+                      : aero == Crossover || aero == NoPressureChange ? thermo != Boundary
+                                                                      : thermo == Mixing;
     if (!fits) {
         ThisNode_->setTType(Mixing);
     }

@@ -113,6 +113,14 @@ TEST_F(Scaling, DoesNothingToAMinimisedWindow) {
     EXPECT_EQ(label.fontSize, 0);
 }
 
+TEST_F(Scaling, ScalesNothingToNothingSoThatThereIsAWayBack) {
+    const auto& label = at(ControlKind::Label, 100, 245, 300, 80);
+    window.moveTo({Twips{}, Twips{}, Twips{0}, Twips{0}});
+    expect(label, 100, 245, 300, 80);
+    resize();
+    expect(label, 200, 145, 600, 40);
+}
+
 TEST_F(Scaling, GivesTheChosenFontToAllButPanelsAndLines) {
     app.UserFontName = "Courier New";
     app.UserFontSize = 12;

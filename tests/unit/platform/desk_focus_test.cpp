@@ -155,6 +155,15 @@ TEST_F(TwoBoxesAndAButton, PasteOnlyTheFirstLineIntoASingleLine) {
     EXPECT_EQ(first->text().text, "1");
 }
 
+TEST_F(TwoBoxesAndAButton, PasteLinesOfAnyEndAsLinesOfTheirOwn) {
+    first->text().multiLine = true;
+    first->setText("");
+    surroundings.clipboard.setText("a\nb\r\nc\rd");
+    desk.focusOn(*first);
+    desk.key(Key::CtrlV);
+    EXPECT_EQ(first->text().text, "a\r\nb\r\nc\r\nd");
+}
+
 TEST_F(TwoBoxesAndAButton, TypeSentCharactersOneByOne) {
     desk.sendKeys("7");
     EXPECT_EQ(first->text().text, "7");
@@ -217,6 +226,38 @@ TEST(ATypedDropDown, IsSelectedWholeWhenItGetsTheFocusAndTellsAChosenEntryAsChan
     EXPECT_TRUE(place.desk.select(*combo, chosen));
     EXPECT_EQ(combo->shownText(), "two");
     EXPECT_EQ(place.log, (Log{"combo got focus", "combo changed", "combo clicked"}));
+}
+
+TEST(WhatTheOldControlTookAwayOnItsWayOut, IsNotChosenAnyMore) {
+    test::Workplace place;
+    Control* box = nullptr;
+    Control* list = nullptr;
+    Control* strip = nullptr;
+    place.open("form", [&](Window& window) {
+        box = &window.add(ControlKind::TextBox, "box");
+        list = &window.add(ControlKind::List, "list");
+        strip = &window.add(ControlKind::TabStrip, "strip");
+        list->items().addItem("a");
+        list->items().addItem("b");
+        strip->tabs().tabs = {{"one", true}, {"two", true}};
+        box->on.lostFocus = [&] {
+            list->items().removeItem(1);
+            strip->tabs().tabs[1].enabled = false;
+        };
+        list->on.click = [&] { place.log.emplace_back("list clicked"); };
+        strip->on.click = [&] { place.log.emplace_back("tab clicked"); };
+    });
+    place.desk.focusOn(*box);
+    const std::array second{1};
+    EXPECT_TRUE(place.desk.select(*list, second)) << "the person did click";
+    EXPECT_EQ(list->items().index(), -1);
+    list->items().addItem("b");
+    strip->tabs().tabs[1].enabled = true;
+    place.desk.focusOn(*box);
+    EXPECT_TRUE(place.desk.chooseTab(*strip, 1));
+    EXPECT_EQ(strip->tabs().current, 0);
+    EXPECT_TRUE(place.log.empty());
+    EXPECT_FALSE(place.desk.ended());
 }
 
 TEST(AMultipleSelection, IsExactlyTheClickedEntries) {

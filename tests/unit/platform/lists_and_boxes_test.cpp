@@ -118,6 +118,50 @@ TEST(ASelection, OutsideTheTextIsBroughtInside) {
     EXPECT_EQ(part.text, "abc");
 }
 
+/// A grid of twenty rows of 300 twips that shows five of them.
+class AScrolledGrid : public testing::Test {
+protected:
+    AScrolledGrid() {
+        control.bounds.width = Twips{5000};
+        control.bounds.height = Twips{5 * 300 + 30};
+        grid.setRows(20);
+    }
+    int topAfterReveal(int row) {
+        grid.setRow(row);
+        revealCurrentRow(control);
+        return grid.topRow();
+    }
+    Window window{"form"};
+    Control& control = window.add(ControlKind::Grid, "grd");
+    Grid& grid = control.grid();
+};
+
+TEST_F(AScrolledGrid, MovesOnlyAsFarAsItsCurrentRowNeedsIt) {
+    EXPECT_EQ(topAfterReveal(4), 0);
+    EXPECT_EQ(topAfterReveal(5), 1);
+    EXPECT_EQ(topAfterReveal(19), 15);
+    EXPECT_EQ(topAfterReveal(15), 15);
+    EXPECT_EQ(topAfterReveal(14), 14);
+    EXPECT_EQ(topAfterReveal(0), 0);
+}
+
+TEST_F(AScrolledGrid, KeepsItsRowsClearOfTheFixedOnes) {
+    grid.setFixed(1, 0);
+    EXPECT_EQ(topAfterReveal(5), 1);
+    EXPECT_EQ(topAfterReveal(2), 1);
+    EXPECT_EQ(topAfterReveal(1), 0);
+}
+
+TEST_F(AScrolledGrid, LeavesRoomForTheScrollBarUnderWideColumns) {
+    grid.setColWidth(0, Twips{6000});
+    EXPECT_EQ(topAfterReveal(4), 1);
+}
+
+TEST_F(AScrolledGrid, StaysWhereItIsWithoutAHeight) {
+    control.bounds.height = Twips{};
+    EXPECT_EQ(topAfterReveal(19), 0);
+}
+
 TEST(ACaption, IsReadWithoutTheSignOfItsKey) {
     EXPECT_EQ(plainCaption("&File"), "File");
     EXPECT_EQ(plainCaption("Reset  &Size && Font"), "Reset  Size & Font");
@@ -154,6 +198,21 @@ TEST_F(TabOrder, GoesRoundAtBothEnds) {
     EXPECT_EQ(window.nextInTabOrder(last, false), first);
     EXPECT_EQ(window.nextInTabOrder(first, true), last);
     EXPECT_EQ(window.nextInTabOrder(nullptr, true), last);
+}
+
+TEST_F(TabOrder, GoesFromTheTabsIntoTheirCurrentPageThoughAnotherPageComesToTheFrontByItself) {
+    auto& strip = window.add(ControlKind::TabStrip, "strip");
+    strip.tabs().tabs = {{"one"}, {"two"}};
+    strip.tabs().current = 1;
+    auto& turning = window.add(ControlKind::TextBox, "turning");
+    auto& shown = window.add(ControlKind::TextBox, "shown");
+    turning.strip = shown.strip = &strip;
+    turning.turnsPage = true;
+    shown.page = 1;
+
+    EXPECT_EQ(window.nextInTabOrder(&strip, false), &shown);
+    EXPECT_EQ(window.nextInTabOrder(last, false), &strip);
+    EXPECT_EQ(window.nextInTabOrder(&shown, true), &turning);
 }
 
 TEST_F(TabOrder, LeavesOutWhatStandsOnAHiddenPanelOrAnotherPage) {
