@@ -168,6 +168,8 @@ private:
     void editKey(Control& control, Key key);
     void arrow(Control& control, Key key);
     void moveTab(bool backwards);
+    /// The page of the window in front, at that control; of a window without a page the contents.
+    void helpOn(const Control& control);
     void clipboardKey(Control& control, Key key);
 
     Services services_;

@@ -206,6 +206,9 @@ bool Desk::key(Key key) {
         case Key::Backspace:
             pressCharacter(control, CharacterBackspace);
             break;
+        case Key::F1:
+            helpOn(control);
+            break;
         case Key::CtrlX:
         case Key::CtrlC:
         case Key::CtrlV:
@@ -220,6 +223,11 @@ bool Desk::key(Key key) {
         }
         return true;
     });
+}
+
+void Desk::helpOn(const Control& control) {
+    const int context = front() == nullptr ? 0 : front()->helpContext;
+    services_.help.show(context == 0 ? HelpContents : HelpContext, context, context == 0 ? std::string{} : control.label());
 }
 
 void Desk::clipboardKey(Control& control, Key key) {

@@ -32,6 +32,7 @@ struct DialogRequest {
     std::string fileName;
     std::string folder; ///< where it starts
     std::uint32_t flags = 0;
+    bool printerDefault = false; ///< what a print dialog sets up holds for everything printed from then on
     std::string fontName;
     double fontSize = 0;
 };
@@ -123,6 +124,7 @@ public:
     HelpViewer(const HelpViewer&) = delete;
     HelpViewer& operator=(const HelpViewer&) = delete;
     virtual ~HelpViewer() = default;
+    /// For `HelpSearch` the key is a keyword, for `HelpContext` the control that the person asks about, or empty.
     virtual void show(int command, int context, const std::string& key) = 0;
 };
 

@@ -1,6 +1,5 @@
 #include "app/composition/program.hpp"
 
-#include "core/dataset/progress.hpp"
 #include "fire/editor/fire_editor.hpp"
 #include "fire/editor/zone_editor.hpp"
 #include "line/editor/line_sections.hpp"
@@ -20,8 +19,6 @@
 #include "vent/editor/node_details.hpp"
 #include "vent/editor/vent_sections.hpp"
 #include "vent/editor/vent_shafts.hpp"
-
-#include <exception>
 
 namespace kov {
 
@@ -71,13 +68,8 @@ std::string Program::rescueData() {
     if (!app_.DataSet) {
         return {};
     }
-    CardWriter writer;
-    NoProgress silent;
-    try {
-        app_.DataSet->WriteFile(writer, silent);
-    } catch (const std::exception&) {
-        // As far as it can be written: that much is better than nothing.
-    }
+    CardWriter writer(app_.DataSet->lineEnd.empty() ? "\n" : app_.DataSet->lineEnd);
+    app_.DataSet->WriteRescue(writer);
     return desk_.services().files.rescue("unsaved.kov", writer.content());
 }
 

@@ -35,7 +35,7 @@ Fixed<10> CardInt(std::int16_t value) { return numberField(value, ""); }
 Fixed<10> CardReal(std::int32_t value) { return numberField(value, "."); }
 
 std::string_view CardReader::readLine() {
-    if (next_ >= text_.size()) {
+    if (atEnd()) {
         throw Failure("Input past end of file");
     }
     const auto end = text_.find('\n', next_);
@@ -100,6 +100,12 @@ CardWriter& CardWriter::tabTo(std::size_t column) {
 void CardWriter::endCard() {
     out_.append(lineEnd_);
     lineStart_ = out_.size();
+}
+
+void CardWriter::endBrokenCard() {
+    if (out_.size() != lineStart_) {
+        endCard();
+    }
 }
 
 } // namespace kov

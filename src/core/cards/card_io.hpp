@@ -21,6 +21,7 @@ class CardReader {
 public:
     explicit CardReader(std::string_view text) : text_(text) {}
 
+    [[nodiscard]] bool atEnd() const { return next_ >= text_.size(); }
     /// The next line without its end. End of file is a Failure.
     [[nodiscard]] std::string_view readLine();
     /// The line end that the file uses, judged by its first line; empty when no line has ended yet.
@@ -79,6 +80,8 @@ public:
     CardWriter& tabTo(std::size_t column);
     /// Ends the line.
     void endCard();
+    /// Ends the line where one was begun.
+    void endBrokenCard();
 
     void reserve(std::size_t bytes) { out_.reserve(bytes); }
     [[nodiscard]] const std::string& content() const { return out_; }

@@ -168,6 +168,9 @@ public:
     /// Writes the data set as a card file, after recomputing all counts from the collections. What can't be written (a print
     /// group that isn't there, a segment without subsegments) is a Failure.
     void WriteFile(CardWriter& writer, ProgressSink& progress);
+    /// Writes what can be written, for a copy that is kept when the program fails: what fails is left out, and the next Form
+    /// goes on. Form 12 counts the print groups that there are.
+    void WriteRescue(CardWriter& writer);
 
 private:
     void readForms(CardReader& reader, FileProgress& bar);
@@ -185,6 +188,8 @@ private:
     void writeWeather(CardWriter& writer) const;
     void writeNetwork(CardWriter& writer, FileProgress& bar) const;
     void writePrintGroups(CardWriter& writer) const;
+    void rescueNetwork(CardWriter& writer) const;
+    void rescuePrintGroups(CardWriter& writer) const;
     void writeTimes(CardWriter& writer) const;
 
     [[nodiscard]] std::int32_t progressMax() const;

@@ -3,7 +3,9 @@
 #include "platform/qt/text_codec.hpp"
 
 #include <QFontMetricsF>
+#include <QPageLayout>
 #include <QPainter>
+#include <QPen>
 #include <QPrinter>
 
 #include <optional>
@@ -12,7 +14,8 @@
 namespace kov::qt {
 namespace {
 
-constexpr double TwipsPerInch = 1440;
+constexpr double TwipsPerInch = 1440, Margin = 0.25;
+constexpr Twips RuleWidth{10}; // half a point: a single dot of a printer can hardly be seen
 
 } // namespace
 
@@ -24,6 +27,8 @@ struct QtPrinter::Parts {
     QPrinter& device() {
         if (!printer) {
             printer.emplace(QPrinter::HighResolution);
+            // A printed card file is 91 columns wide and begins at the seventh: little margin is wanted.
+            printer->setPageMargins(QMarginsF(Margin, Margin, Margin, Margin), QPageLayout::Inch);
         }
         return *printer;
     }
@@ -51,7 +56,11 @@ void QtPrinter::begin(const std::string& documentName) {
 }
 
 void QtPrinter::setFont(const std::string& name, double points, bool bold) {
-    parts_->font = QFont(toQt(name));
+    // A zero character ends a font's name. Liberation Mono has the widths of Courier New, and stands in where that is missing.
+    parts_->font = QFont(toQt(name.substr(0, name.find('\0'))));
+    auto families = parts_->font.families();
+    families << QStringLiteral("Liberation Mono") << QStringLiteral("Cousine") << QStringLiteral("Nimbus Mono PS");
+    parts_->font.setFamilies(families);
     parts_->font.setStyleHint(QFont::TypeWriter);
     parts_->font.setPointSizeF(points);
     parts_->font.setBold(bold);
@@ -73,6 +82,7 @@ void QtPrinter::print(Twips x, Twips y, const std::string& text) {
 }
 
 void QtPrinter::line(Twips x1, Twips y1, Twips x2, Twips y2) {
+    parts_->painter.setPen(QPen(Qt::black, parts_->dots(RuleWidth)));
     parts_->painter.drawLine(QPointF(parts_->dots(x1), parts_->dots(y1)), QPointF(parts_->dots(x2), parts_->dots(y2)));
 }
 

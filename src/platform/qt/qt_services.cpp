@@ -14,6 +14,7 @@ Services QtServices::services() { return {messages_, dialogs_, clipboard_, setti
 void QtServices::attach(Desk& desk, Renderer& renderer) {
     messages_.beforeBox = [&renderer] { renderer.sync(); };
     dialogs_.beforeDialog = [&renderer] { renderer.sync(); };
+    help_.beforeBox = [&renderer] { renderer.sync(); };
     processes_.ended = [&desk] { return desk.ended(); };
     processes_.during = [&renderer](const std::function<void()>& wait) { renderer.during(wait); };
     desk.onNotice = [](const std::string& notice) {

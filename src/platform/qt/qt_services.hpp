@@ -3,6 +3,7 @@
 #include "platform/desk.hpp"
 #include "platform/disk_files.hpp"
 #include "platform/qt/dialogs.hpp"
+#include "platform/qt/help_viewer.hpp"
 #include "platform/qt/messages.hpp"
 #include "platform/qt/printer.hpp"
 #include "platform/qt/processes.hpp"
@@ -11,12 +12,6 @@
 namespace kov::qt {
 
 class Renderer;
-
-/// There are no help pages yet: help says nothing.
-class NoHelp final : public HelpViewer {
-public:
-    void show(int /*command*/, int /*context*/, const std::string& /*key*/) override {}
-};
 
 /// The surroundings of the real program.
 class QtServices {
@@ -35,7 +30,7 @@ private:
     QtClipboard clipboard_;
     QtSettings settings_;
     QtProcesses processes_{files_};
-    NoHelp help_;
+    QtHelpViewer help_;
 };
 
 } // namespace kov::qt

@@ -3,6 +3,7 @@
 #include "core/cards/failure.hpp"
 #include "core/cards/numbers.hpp"
 #include "core/cards/split_path.hpp"
+#include "shell/main/print_file.hpp"
 
 #include <utility>
 
@@ -12,6 +13,8 @@ namespace {
 constexpr int PlainBox = 0, ChangedFileBox = 35;
 // Overwrite prompt, no read-only box, path must exist, no read-only return, long names.
 constexpr std::uint32_t SaveFlags = 0x208806;
+// No selection, no page numbers, no print-to-file.
+constexpr std::uint32_t PrintFlags = 0x10000C;
 constexpr std::string_view Caption = "KOV Input Data";
 constexpr std::string_view HostLineEnd = "\n";
 
@@ -164,6 +167,27 @@ void FileCommands::saveAs() {
     app_.current = {result.fileName, result.fileTitle};
     hooks_.setCaption(titled(app_.current.KOVShortName));
     save();
+}
+
+void FileCommands::print() {
+    DialogRequest request;
+    request.kind = DialogKind::Print;
+    request.printerDefault = true;
+    request.flags = PrintFlags;
+    if (app_.desk.services().dialogs.show(request).error == DialogCancelled) {
+        return;
+    }
+    if (app_.FileDirty) {
+        save();
+    }
+    PlatformError error;
+    const auto content = channel_.openForInput(app_.current.KOVName, error);
+    if (error) {
+        throw Failure(error.description);
+    }
+    app_.desk.setBusy(true);
+    PrintFile(app_.desk.services().printer, {content, app_.current.KOVShortName, printDate()});
+    app_.desk.setBusy(false);
 }
 
 bool FileCommands::mayClose() {

@@ -28,6 +28,8 @@ public:
     void open();
     void save();
     void saveAs();
+    /// Prints the current file as it stands on disc, after saving what was changed. A file that can't be opened is a Failure.
+    void print();
     /// A recent file, 1 to 6, by the caption of its menu entry.
     void openRecent(std::size_t number, const std::string& caption);
     /// Reads the current file into the data set; what can't be opened is told, and nothing is loaded.

@@ -134,6 +134,7 @@ void MainWindow::bindCommands() {
     onMenu("MF_Open", [this] { files_.open(); });
     onMenu("MF_Save", [this] { files_.save(); });
     onMenu("MF_SaveAs", [this] { files_.saveAs(); });
+    onMenu("MF_Print", [this] { files_.print(); });
     onMenu("MF_Exit", [this] {
         if (app_.desk.leave(window_)) {
             app_.desk.unload(window_);
