@@ -6,13 +6,11 @@
 
 #include <cstdio>
 #include <exception>
-#include <filesystem>
 #include <iostream>
 #include <memory>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 namespace kov::tool {
@@ -37,22 +35,24 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-/// The content of a file; none when it can't be opened or read.
-std::optional<std::string> contentOf(const std::string& path) {
-    const File file(std::fopen(path.c_str(), "rb"));
-    if (!file) {
-        return std::nullopt;
+/// Opens a file for reading; none when it can't be read at all. A folder can be opened like a file, so a first byte is tried.
+File openToRead(const std::string& path) {
+    File file(std::fopen(path.c_str(), "rb"));
+    if (file) {
+        static_cast<void>(std::ungetc(std::fgetc(file.get()), file.get()));
+        if (std::ferror(file.get()) != 0) {
+            file.reset();
+        }
     }
-    std::string content;
-    std::error_code unknown;
-    const auto size = std::filesystem::file_size(path, unknown);
-    content.reserve(unknown ? 0 : static_cast<std::size_t>(size));
-    std::string block(std::size_t{1} << 16U, '\0');
-    for (std::size_t got = block.size(); got == block.size();) {
-        got = std::fread(block.data(), 1, block.size(), file.get());
-        content.append(block, 0, got);
-    }
-    return std::ferror(file.get()) == 0 ? std::optional(std::move(content)) : std::nullopt;
+    return file;
+}
+
+/// Writes the data set, handing each piece to the sink.
+void write(KOVDataSet& dataSet, CardWriter::Sink sink) {
+    CardWriter writer(dataSet.lineEnd.empty() ? "\n" : std::string_view(dataSet.lineEnd), std::move(sink));
+    NoProgress progress;
+    dataSet.WriteFile(writer, progress);
+    writer.flush();
 }
 
 int fail(int code, const std::string& message) {
@@ -62,31 +62,30 @@ int fail(int code, const std::string& message) {
 
 int rewrite(const std::string& in, const std::string& out, bool partial) {
     KOVDataSet dataSet;
-    NoProgress progress;
-    std::size_t size = 0;
     bool done = false;
     {
-        const auto content = contentOf(in);
-        if (!content) {
+        const File file = openToRead(in);
+        if (!file) {
             return fail(ExitUsage, "can't open " + in);
         }
-        size = content->size();
-        CardReader reader(*content);
+        CardReader reader([&](std::span<char> bytes) { return std::fread(bytes.data(), 1, bytes.size(), file.get()); });
+        NoProgress progress;
         ErrorLines messages;
         done = dataSet.ReadFile(reader, progress, messages, SplitPath(in).name);
-    } // the text goes before the new one comes, so that a large file isn't held twice beside its model
+        if (std::ferror(file.get()) != 0) {
+            return fail(ExitUsage, "can't read " + in);
+        }
+    }
     if (!done && !partial) {
         return ExitReadFailed;
     }
-    // OUT is touched only when its whole content stands: it may be IN, and a failure must leave it alone.
-    CardWriter writer(dataSet.lineEnd.empty() ? "\n" : std::string_view(dataSet.lineEnd));
-    writer.reserve(2 * size);
+    // OUT is touched only when it is known that all can be written: it may be IN, and a failure must leave it alone.
     try {
-        dataSet.WriteFile(writer, progress);
+        write(dataSet, [](std::string_view) {});
     } catch (const std::exception& error) {
         return fail(ExitUnhandledFailure, std::string("writing failed: ") + error.what());
     }
-    if (!storeWhole(out, writer.content())) {
+    if (!storeWhole(out, [&](const CardWriter::Sink& put) { write(dataSet, put); })) {
         return fail(ExitUsage, "can't write " + out);
     }
     return done ? ExitDone : ExitReadFailed;

@@ -37,8 +37,11 @@ bool sync(std::FILE* file) {
 }
 #endif
 
-bool writeTo(File file, std::string_view content) {
-    const bool taken = content.empty() || std::fwrite(content.data(), 1, content.size(), file.get()) == content.size();
+bool writeTo(File file, const Content& content) {
+    bool taken = true;
+    content([&](std::string_view piece) {
+        taken = taken && (piece.empty() || std::fwrite(piece.data(), 1, piece.size(), file.get()) == piece.size());
+    });
     const bool written = taken && sync(file.get());
     return std::fclose(file.release()) == 0 && written;
 }
@@ -81,7 +84,7 @@ void takeOver(const fs::path& beside, const fs::path& file) {
 }
 
 /// The content under another name, which then takes the file's place; none when there can't be another name beside it.
-std::optional<bool> replace(const fs::path& file, std::string_view content) {
+std::optional<bool> replace(const fs::path& file, const Content& content) {
     const fs::path beside = file.string() + "." + std::to_string(ownProcess()) + ".new";
     auto opened = openForOutput(beside, "wbx");
     if (!opened) {
@@ -101,7 +104,7 @@ std::optional<bool> replace(const fs::path& file, std::string_view content) {
 
 } // namespace
 
-bool storeWhole(const std::string& path, std::string_view content) {
+bool storeWhole(const std::string& path, const Content& content) {
     const auto file = behindLinks(path);
     if (mayBeReplaced(path, file)) {
         if (const auto replaced = replace(file, content)) {

@@ -113,4 +113,20 @@ expect 0 --help
 grep -q rewrite "$dir/out" || complain "--help does not tell of rewrite"
 expect 0 --version
 grep -q '[0-9]\.[0-9]' "$dir/out" || complain "--version tells no version"
+# Decks by hand: their outcome stands beside them.
+for deck in "$(dirname "$0")"/by-hand/*.kov; do
+    name=${deck%.kov}
+    rm -f "$dir/by-hand.out"
+    if [ -f "$name.form" ]; then
+        expect 1 rewrite "$deck" "$dir/by-hand.out"
+        absent "$dir/by-hand.out"
+        printf 'Error Reading %s\nIn File %s\n' "$(cat "$name.form")" "${deck##*/}" >"$dir/wanted"
+        same "$dir/wanted" "$dir/err"
+        [ ! -f "$name.out" ] || expect 1 rewrite --partial "$deck" "$dir/by-hand.out"
+    else
+        expect 0 rewrite "$deck" "$dir/by-hand.out"
+    fi
+    [ ! -f "$name.out" ] || same "$name.out" "$dir/by-hand.out"
+done
+
 exit $failed

@@ -3,6 +3,7 @@
 #include "core/cards/failure.hpp"
 #include "core/cards/numbers.hpp"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -10,6 +11,8 @@ namespace kov {
 namespace {
 
 constexpr std::size_t FieldWidth = 10;
+/// How much of a file stands in memory when it is read or written piece by piece.
+constexpr std::size_t BlockSize = std::size_t{1} << 15U;
 
 /// A field of blanks with the number written into it, as plain number text.
 template <typename Integer> Fixed<10> numberField(Integer value, std::string_view behind) {
@@ -34,17 +37,44 @@ void requireField(std::size_t number, std::size_t highest) {
 Fixed<10> CardInt(std::int16_t value) { return numberField(value, ""); }
 Fixed<10> CardReal(std::int32_t value) { return numberField(value, "."); }
 
+bool CardReader::atEnd() { return next_ >= text_.size() && !refill(); }
+
 std::string_view CardReader::readLine() {
-    if (atEnd()) {
+    auto end = text_.find('\n', next_);
+    while (end == std::string_view::npos && refill()) {
+        end = text_.find('\n', next_);
+    }
+    if (next_ >= text_.size()) {
         throw Failure("Input past end of file");
     }
-    const auto end = text_.find('\n', next_);
     auto line = text_.substr(next_, end == std::string_view::npos ? end : end - next_);
     next_ = end == std::string_view::npos ? text_.size() : end + 1;
     if (!line.empty() && line.back() == '\r') {
         line.remove_suffix(1);
     }
     return line;
+}
+
+bool CardReader::refill() {
+    if (!source_) {
+        return false;
+    }
+    block_.erase(0, next_);
+    const std::size_t kept = text_.size() - next_;
+    block_.resize(std::max(BlockSize, 2 * kept)); // an endless line is still read in a number of steps that its length allows
+    const auto more = source_(std::span(block_).subspan(kept));
+    text_ = std::string_view(block_).substr(0, kept + more);
+    next_ = 0;
+    if (more == 0) {
+        source_ = nullptr;
+    }
+    return more > 0;
+}
+
+std::string_view CardReader::lineEnd() {
+    while (text_.find('\n') == std::string_view::npos && refill()) {
+    }
+    return lineEndOf(text_);
 }
 
 std::string_view CardReader::lineEndOf(std::string_view text) {
@@ -66,7 +96,7 @@ std::string_view Card8::field(std::size_t number) const {
 
 std::string_view Card4::field(std::size_t number) const {
     requireField(number, 4);
-    return trimLeft(columns(line_, (number - 1) * FieldWidth + 1, number * FieldWidth));
+    return trimLeft(columns({columns_.data(), length_}, (number - 1) * FieldWidth + 1, number * FieldWidth));
 }
 
 bool ReadCard8(CardReader& reader, Card8& card) {
@@ -99,12 +129,22 @@ CardWriter& CardWriter::tabTo(std::size_t column) {
 
 void CardWriter::endCard() {
     out_.append(lineEnd_);
+    if (sink_ && out_.size() >= BlockSize) {
+        flush();
+    }
     lineStart_ = out_.size();
 }
 
 void CardWriter::endBrokenCard() {
     if (out_.size() != lineStart_) {
         endCard();
+    }
+}
+
+void CardWriter::flush() {
+    if (sink_) {
+        sink_(out_);
+        out_.clear();
     }
 }
 

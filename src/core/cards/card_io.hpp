@@ -2,8 +2,11 @@
 
 #include "core/cards/fixed.hpp"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,21 +19,35 @@ namespace kov {
 [[nodiscard]] Fixed<10> CardReal(std::int32_t value);
 
 /// File number 1 open for input: the lines of a card file, one after the other. Lines end with LF or CR LF, the last one may
-/// lack its end. The text must outlive the reader and every card that still looks into it.
+/// lack its end. A line is good until the next one is read.
 class CardReader {
 public:
-    explicit CardReader(std::string_view text) : text_(text) {}
+    /// Fills the bytes with what comes next in the file, as far as there is anything, and tells how many they are.
+    using Source = std::function<std::size_t(std::span<char>)>;
 
-    [[nodiscard]] bool atEnd() const { return next_ >= text_.size(); }
+    /// Reads a text that stands in memory and outlives the reader.
+    explicit CardReader(std::string_view text) : text_(text) {}
+    /// Reads a file piece by piece, so that a large one never stands in memory beside its model.
+    explicit CardReader(Source source) : source_(std::move(source)) {}
+    CardReader(const CardReader&) = delete;
+    CardReader& operator=(const CardReader&) = delete;
+    ~CardReader() = default;
+
+    [[nodiscard]] bool atEnd();
     /// The next line without its end. End of file is a Failure.
     [[nodiscard]] std::string_view readLine();
-    /// The line end that the file uses, judged by its first line; empty when no line has ended yet.
+    /// The line end that the file uses, judged by its first line; empty when no line ends. To be asked ahead of the first line.
+    [[nodiscard]] std::string_view lineEnd();
     [[nodiscard]] static std::string_view lineEndOf(std::string_view text);
-    [[nodiscard]] std::string_view lineEnd() const { return lineEndOf(text_); }
 
 private:
+    /// Brings more of the file behind what hasn't been read of `text_`; false when there is no more.
+    [[nodiscard]] bool refill();
+
     std::string_view text_;
     std::size_t next_ = 0;
+    Source source_;
+    std::string block_; // what `text_` looks into when the file comes piece by piece
 };
 
 /// The columns `first` to `last` of a line, counted from 1; what is missing is empty. Nothing is trimmed.
@@ -52,10 +69,11 @@ class Card4 {
 public:
     /// Field 1 to 4 without its leading blanks.
     [[nodiscard]] std::string_view field(std::size_t number) const;
-    void assign(std::string_view line) { line_ = line; }
+    void assign(std::string_view line) { length_ = line.copy(columns_.data(), columns_.size()); }
 
 private:
-    std::string_view line_;
+    std::array<char, 40> columns_{};
+    std::size_t length_ = 0;
 };
 
 /// Reads one card; false when no line is left (the card then stays as it was).
@@ -65,7 +83,13 @@ private:
 /// File number 1 open for output: cards are put together field by field and ended line by line.
 class CardWriter {
 public:
+    /// Takes what has been written.
+    using Sink = std::function<void(std::string_view)>;
+
+    /// Keeps all cards in memory, for `content` or `take`.
     explicit CardWriter(std::string_view lineEnd = "\n") : lineEnd_(lineEnd) {}
+    /// Hands the cards on piece by piece; `flush` hands on the last ones.
+    CardWriter(std::string_view lineEnd, Sink sink) : lineEnd_(lineEnd), sink_(std::move(sink)) {}
 
     /// Text as it stands.
     CardWriter& text(std::string_view text) {
@@ -82,6 +106,8 @@ public:
     void endCard();
     /// Ends the line where one was begun.
     void endBrokenCard();
+    /// Hands on what the sink hasn't had yet.
+    void flush();
 
     void reserve(std::size_t bytes) { out_.reserve(bytes); }
     [[nodiscard]] const std::string& content() const { return out_; }
@@ -90,6 +116,7 @@ public:
 private:
     std::string out_;
     std::string lineEnd_;
+    Sink sink_;
     std::size_t lineStart_ = 0;
 };
 

@@ -3,9 +3,11 @@
 #include "core/cards/failure.hpp"
 #include "core/cards/fixed.hpp"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace kov {
@@ -31,9 +33,24 @@ public:
 private:
     // from_chars leaves the value alone when it can't hold it: too small is zero, too large is infinite.
     [[nodiscard]] double outOfRange() const {
-        const bool tiny = text_.find("e-") != std::string::npos;
-        const double size = tiny ? 0.0 : std::numeric_limits<double>::infinity();
+        const double size = placeOfFirstDigit() < 0 ? 0.0 : std::numeric_limits<double>::infinity();
         return text_.front() == '-' ? -size : size;
+    }
+    /// How many places the first digit that isn't 0 stands ahead of the point, once the exponent has moved it.
+    [[nodiscard]] std::int64_t placeOfFirstDigit() const {
+        const auto mark = std::min(text_.find('e'), text_.size());
+        const auto point = std::min(text_.find('.'), mark);
+        const auto digit = std::min(text_.find_first_of("123456789"), mark);
+        return static_cast<std::int64_t>(point) - static_cast<std::int64_t>(digit) + exponentFrom(mark);
+    }
+    [[nodiscard]] std::int64_t exponentFrom(std::size_t mark) const {
+        if (mark == text_.size()) {
+            return 0;
+        }
+        constexpr std::int64_t tooLong = std::int64_t{1} << 60; // from_chars leaves it so when it can't hold the exponent
+        std::int64_t exponent = text_[mark + 1] == '-' ? -tooLong : tooLong;
+        std::from_chars(text_.data() + mark + 1, text_.data() + text_.size(), exponent);
+        return exponent;
     }
     std::string text_;
 };
@@ -115,8 +132,16 @@ private:
 };
 
 template <typename Integer> Integer rounded(double value) {
+    constexpr double lowest = std::numeric_limits<Integer>::min();
+    constexpr double highest = std::numeric_limits<Integer>::max();
+    if (value >= lowest && value <= highest) {
+        const auto cut = static_cast<Integer>(value);
+        if (cut == value) {
+            return cut; // whole as nearly all are: nothing to round
+        }
+    }
     const double whole = std::nearbyint(value); // the default rounding mode is half to even
-    if (!(whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max())) {
+    if (!(whole >= lowest && whole <= highest)) {
         throw Failure("Overflow");
     }
     return static_cast<Integer>(whole);
@@ -197,7 +222,11 @@ double strictValue(std::string_view text) {
     if (text.empty() || !scanner.scan() || !scanner.atEnd()) {
         throw Failure("Type mismatch");
     }
-    return scanner.value();
+    const double value = scanner.value();
+    if (!std::isfinite(value)) {
+        throw Failure("Overflow");
+    }
+    return value;
 }
 
 std::int16_t toInt16(double value) { return rounded<std::int16_t>(value); }

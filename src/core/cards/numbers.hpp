@@ -24,7 +24,8 @@ namespace kov {
 /// continue it; 0 where no number stands. Exponents with E or D are understood. "12.5 kg" is 12.5, "1,000" is 1. Never fails.
 [[nodiscard]] double fieldValue(std::string_view text);
 
-/// The number that the text is as a whole, by the numeric test (grouping commas left out); a text that fails it is a Failure.
+/// The number that the text is as a whole, by the numeric test (grouping commas left out); a text that fails it, or is too
+/// large a number, is a Failure.
 [[nodiscard]] double strictValue(std::string_view text);
 
 /// Rounds half to even; outside the range of the type is a Failure ("Overflow").

@@ -4,7 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <span>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace kov {
 namespace {
@@ -111,6 +116,49 @@ TEST(CardReader, TellsTheLineEndOfTheFileByItsFirstLine) {
     EXPECT_EQ(CardReader("a\nb\r\n").lineEnd(), "\n");
     EXPECT_EQ(CardReader("a").lineEnd(), "");
     EXPECT_EQ(CardReader("").lineEnd(), "");
+}
+
+/// A file that comes in pieces of that many bytes.
+CardReader::Source inPieces(std::string text, std::size_t size) {
+    return [text = std::move(text), size, at = std::size_t{0}](std::span<char> bytes) mutable {
+        const auto count = text.copy(bytes.data(), std::min(size, bytes.size()), at);
+        at += count;
+        return count;
+    };
+}
+
+TEST(CardReader, TakesAFileThatComesInPieces) {
+    const std::string text = "one\r\n\n" + std::string(200000, 'x') + "\nlast";
+    for (const std::size_t size : {std::size_t{1}, std::size_t{3}, std::size_t{40000}, std::size_t{1000000}}) {
+        CardReader reader(inPieces(text, size));
+        EXPECT_EQ(reader.lineEnd(), "\r\n");
+        EXPECT_EQ(reader.readLine(), "one");
+        EXPECT_EQ(reader.readLine(), "");
+        EXPECT_EQ(reader.readLine(), std::string(200000, 'x'));
+        EXPECT_EQ(reader.readLine(), "last");
+        EXPECT_THROW(static_cast<void>(reader.readLine()), Failure);
+        EXPECT_THROW(static_cast<void>(reader.readLine()), Failure) << "it stays at its end";
+    }
+    EXPECT_EQ(CardReader(inPieces("", 5)).lineEnd(), "");
+    EXPECT_THROW(static_cast<void>(CardReader(inPieces("", 5)).readLine()), Failure);
+}
+
+TEST(CardWriter, HandsOnWhatItWroteInPieces) {
+    std::string received;
+    int pieces = 0;
+    CardWriter writer("\n", [&](std::string_view piece) {
+        received += piece;
+        ++pieces;
+    });
+    std::string expected;
+    for (int i = 0; i < 5000; ++i) {
+        writer.text("ab").tabTo(5).integer(7).endCard();
+        expected += "ab   7        \n";
+    }
+    EXPECT_LT(received.size(), expected.size());
+    EXPECT_GT(pieces, 1);
+    writer.flush();
+    EXPECT_EQ(received, expected);
 }
 
 TEST(CardWriter, JoinsFieldsWithoutASeparatorAndEndsLines) {

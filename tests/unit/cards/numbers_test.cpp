@@ -5,6 +5,7 @@
 
 #include <clocale>
 #include <cmath>
+#include <string>
 
 namespace kov {
 namespace {
@@ -51,6 +52,23 @@ TEST(FieldValue, IsTheNumberAtTheStartOfTheText) {
     EXPECT_EQ(fieldValue("+7"), 7.0);
     EXPECT_TRUE(std::isinf(fieldValue("1E999")));
     EXPECT_EQ(fieldValue("1E-999"), 0.0);
+}
+
+TEST(FieldValue, IsZeroOrInfiniteWhereTheNumberIsTooLong) {
+    EXPECT_EQ(fieldValue("." + std::string(500, '0') + "1"), 0.0);
+    EXPECT_EQ(fieldValue("-0." + std::string(500, '0') + "1E3"), 0.0);
+    EXPECT_TRUE(std::isinf(fieldValue("1" + std::string(500, '0'))));
+    EXPECT_TRUE(std::isinf(fieldValue("-1" + std::string(500, '0') + "E-3")));
+    EXPECT_EQ(fieldValue("1" + std::string(500, '0') + "E-500"), 1.0);
+    EXPECT_TRUE(std::isinf(fieldValue("1E99999999999999999999999")));
+    EXPECT_EQ(fieldValue("1E-99999999999999999999999"), 0.0);
+    EXPECT_EQ(fieldValue(std::string(500, '0') + "7"), 7.0);
+}
+
+TEST(StrictValue, RefusesANumberThatNothingCanHold) {
+    EXPECT_EQ(strictValue(" 1,000.5 "), 1000.5);
+    EXPECT_EQ(strictValue("1E-999"), 0.0);
+    EXPECT_THROW(static_cast<void>(strictValue("1E999")), Failure);
 }
 
 TEST(FieldInteger, RoundsHalfToEven) {
