@@ -24,16 +24,20 @@ private:
     std::string name_;
 };
 
-void compareText(Faults& faults, const QLineEdit& edit, const TextPart& text) {
+void compareText(Faults& faults, const QLineEdit& edit, const TextPart& text, bool focused) {
     faults.compare("text", edit.text(), qt::toQt(text.text));
+    if (!focused) {
+        faults.compare("selection", edit.hasSelectedText(), false);
+        return;
+    }
     const int start = edit.hasSelectedText() ? edit.selectionStart() : edit.cursorPosition();
     faults.compare("cursor", start, text.selStart);
     faults.compare("selection", static_cast<int>(edit.selectionLength()), text.selLength);
 }
 
-void compareContent(Faults& faults, QWidget& widget, const Control& control) {
+void compareContent(Faults& faults, QWidget& widget, const Control& control, bool focused) {
     if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
-        compareText(faults, *edit, control.text());
+        compareText(faults, *edit, control.text(), focused);
     } else if (auto* many = qobject_cast<QPlainTextEdit*>(&widget)) {
         faults.compare("text", many->toPlainText(), qt::toQtLines(control.text().text));
     } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
@@ -43,7 +47,7 @@ void compareContent(Faults& faults, QWidget& widget, const Control& control) {
         faults.compare("number of entries", combo->count(), control.items().count());
         faults.compare("entry", combo->currentIndex(), control.items().index());
         if (combo->lineEdit() != nullptr) {
-            compareText(faults, *combo->lineEdit(), control.text());
+            compareText(faults, *combo->lineEdit(), control.text(), focused);
         }
     }
 }
@@ -60,7 +64,7 @@ void checkControl(std::vector<std::string>& found, QWidget& window, const Contro
     }
     faults.compare("visibility", widget->isVisibleTo(&window), control.shown() && control.onCurrentPage());
     faults.compare("enabling", widget->isEnabled(), control.usable());
-    compareContent(faults, *widget, control);
+    compareContent(faults, *widget, control, focused);
     if (focused && !control.window->minimized) {
         const auto* holder = window.focusWidget();
         faults.compare("focus", holder != nullptr && (holder == widget || widget->isAncestorOf(holder)), true);

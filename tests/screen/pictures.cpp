@@ -5,6 +5,7 @@
 #include "platform/qt/look.hpp"
 #include "platform/qt/renderer.hpp"
 #include "platform/qt/text_codec.hpp"
+#include "quiet.hpp"
 
 #include <QApplication>
 #include <QDir>
@@ -13,6 +14,7 @@
 #include <QProcess>
 #include <QSet>
 
+#include <array>
 #include <cstdio>
 #include <filesystem>
 
@@ -58,6 +60,14 @@ struct Stage {
     kov::Program program{around.services(), kov::qt::fromQtLossy(QCoreApplication::applicationDirPath())};
     kov::qt::Renderer renderer{program.desk(), {.realTimers = false}};
 
+    /// Starts on a file of the samples; the splash is closed.
+    kov::Window* start(const std::string& file) {
+        program.start(file);
+        if (auto* splash = program.desk().find("About")) {
+            program.desk().close(*splash);
+        }
+        return program.desk().find("frmMain");
+    }
     kov::Window* open(const std::string& name) {
         kov::Window* window = nullptr;
         program.desk().act([&] { window = program.desk().show(name); });
@@ -65,16 +75,60 @@ struct Stage {
     }
 };
 
-void drawProgram(Album& album, const std::string& file, const QString& mark) {
-    Stage stage;
-    stage.program.start(file);
-    auto& desk = stage.program.desk();
-    if (auto* splash = desk.find("About")) {
-        album.add(stage.renderer, *splash, QStringLiteral("About-") + mark);
-        desk.close(*splash);
+/// The windows of the data, in the order of the main window's buttons, and what has no button.
+constexpr std::array Windows{"General",  "Options", "SimCtrl", "frmLSect", "lseg",   "frmVSect", "vshaft",   "frmXFan",
+                             "frmFires", "ECZones", "frmIFan", "TrnInit",  "Trains", "Route1",   "FanTable", "frmCounts"};
+
+void drawPages(Album& album, Stage& stage, const kov::Window& window, const QString& name) {
+    album.add(stage.renderer, window, name);
+    for (const auto& control : window.controls()) {
+        if (control->kind != kov::ControlKind::TabStrip) {
+            continue;
+        }
+        for (int page = 0; page < static_cast<int>(control->tabs().tabs.size()); ++page) {
+            if (page != control->tabs().current && stage.program.desk().chooseTab(*control, page)) {
+                album.add(stage.renderer, window, name + QStringLiteral("-page%1").arg(page));
+            }
+        }
     }
-    auto* window = desk.find("frmMain");
-    desk.focusOn(window->control("tbDgnMon"));
+}
+
+void drawData(Album& album) {
+    Stage stage;
+    stage.start("two-station-line.kov");
+    for (const auto* name : Windows) {
+        if (auto* window = stage.open(name)) {
+            drawPages(album, stage, *window, QString::fromLatin1(name));
+            stage.program.desk().close(*window);
+        }
+    }
+    auto* about = stage.open("About");
+    album.add(stage.renderer, *about, QStringLiteral("About"));
+}
+
+/// One picture for each pair of types that a node of the sample has.
+void drawNodes(Album& album) {
+    Stage stage;
+    stage.start("ventilation-only.kov");
+    auto* window = stage.open("NodeDtl");
+    QSet<QString> drawn;
+    auto& grid = window->control("Grid1");
+    for (int row = 0; row < grid.grid().rows(); ++row) {
+        stage.program.desk().cell(grid, row, 0);
+        const auto types = QStringLiteral("NodeDtl-aero%1-thermo%2")
+                               .arg(window->control("cbAeroType").items().index())
+                               .arg(window->control("cbThermoType").items().index());
+        if (!drawn.contains(types)) {
+            drawn.insert(types);
+            album.add(stage.renderer, *window, types);
+        }
+    }
+}
+
+void drawMain(Album& album, const std::string& file, const QString& mark) {
+    Stage stage;
+    auto* window = stage.start(file);
+    stage.program.desk().focusOn(window->control("tbDgnMon"));
     album.add(stage.renderer, *window, QStringLiteral("frmMain-") + mark);
 }
 
@@ -102,8 +156,10 @@ int drawAll(QApplication& application, const QString& folder, bool dark, const Q
     QDir().mkpath(folder);
     Album album(folder, scale + (dark ? QStringLiteral("-dark") : QStringLiteral("-light")));
     drawEverything(album);
-    drawProgram(album, {}, QStringLiteral("empty"));
-    drawProgram(album, "two-station-line.kov", QStringLiteral("sample"));
+    drawMain(album, {}, QStringLiteral("empty"));
+    drawMain(album, "two-station-line.kov", QStringLiteral("sample"));
+    drawData(album);
+    drawNodes(album);
     return album.failed() ? 1 : 0;
 }
 
@@ -129,6 +185,7 @@ int drawInProcesses(const QString& folder) {
 } // namespace
 
 int main(int argc, char** argv) {
+    kov::screen::hideOffscreenRemarks();
     QApplication application(argc, argv);
     const auto words = application.arguments();
     if (words.size() == 2) {

@@ -7,6 +7,7 @@
 #include "platform/disk_files.hpp"
 #include "platform/qt/look.hpp"
 #include "platform/qt/renderer.hpp"
+#include "quiet.hpp"
 #include "screen_hand.hpp"
 
 #include <QApplication>
@@ -75,6 +76,7 @@ std::vector<kov::drive::ScriptText> readScripts(const std::vector<std::string>& 
 } // namespace
 
 int main(int argc, char** argv) {
+    kov::screen::hideOffscreenRemarks();
     QApplication application(argc, argv);
     application.setQuitOnLastWindowClosed(false);
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);

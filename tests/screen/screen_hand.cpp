@@ -188,6 +188,13 @@ public:
     }
 
     bool focus(Control& control) {
+        if (desk_->focus() == &control) {
+            return done();
+        }
+        if (!control.onCurrentPage() && control.focusable()) {
+            desk_->act([&] { desk_->focusOn(control); }); // brings its page to the front; there is nothing to hit before
+            return done();
+        }
         auto* widget = reach(control);
         if (widget == nullptr || !control.focusable()) {
             return false;

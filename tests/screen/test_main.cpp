@@ -1,3 +1,5 @@
+#include "quiet.hpp"
+
 #include "platform/qt/look.hpp"
 
 #include <QApplication>
@@ -5,6 +7,7 @@
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
+    kov::screen::hideOffscreenRemarks();
     QApplication application(argc, argv);
     kov::qt::setLook(application, kov::qt::Look::Light);
     testing::InitGoogleTest(&argc, argv);

@@ -20,8 +20,8 @@ public:
         combo_->setEditable(control.hasText());
         combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         combo_->setInsertPolicy(QComboBox::NoInsert);
-        combo_->setCompleter(nullptr);
         if (auto* edit = combo_->lineEdit()) {
+            combo_->setCompleter(nullptr);
             edit->setObjectName(controlLabel(control) + QStringLiteral(".text"));
             mirror_.emplace(control, ground, *edit);
         }

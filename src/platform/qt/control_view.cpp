@@ -8,6 +8,17 @@
 #include <cmath>
 
 namespace kov::qt {
+namespace {
+
+constexpr int MiddleGrey = 128, Channel = 256;
+// The face colour that windows were designed on: what has it looks like the window around it.
+constexpr std::int32_t FaceGrey = 0xC0C0C0;
+
+} // namespace
+
+QColor colourOf(std::int32_t backColor) {
+    return {backColor % Channel, backColor / Channel % Channel, backColor / (Channel * Channel) % Channel};
+}
 
 int pixels(Twips length) { return static_cast<int>(std::lround(length.pixels())); }
 
@@ -36,21 +47,43 @@ void ControlView::syncFont() {
     if (control_->fontSize > 0) {
         font.setPointSize(control_->fontSize);
     }
+    font.setStretch(widget_->font().stretch()); // set by the view where a text is narrowed
     if (font != widget_->font()) {
         widget_->setFont(font);
     }
 }
 
-void ControlView::sync(const QPoint& shift) {
-    const auto place = pixels(control_->bounds).translated(shift);
-    if (place != widget_->geometry()) {
-        widget_->setGeometry(place);
+void ControlView::syncColour() {
+    if (control_->backColor == backColor_) {
+        return;
     }
+    backColor_ = control_->backColor;
+    const bool own = backColor_ >= 0 && backColor_ != FaceGrey;
+    const bool box = control_->hasText() || control_->kind == ControlKind::List || control_->kind == ControlKind::Combo;
+    widget_->setAutoFillBackground(own && !box);
+    if (!own) {
+        widget_->setPalette({});
+        return;
+    }
+    const QColor back = colourOf(backColor_);
+    // Readable in the dark look too.
+    const QColor text = back.lightness() < MiddleGrey ? Qt::white : Qt::black;
+    auto palette = widget_->palette();
+    palette.setColor(box ? QPalette::Base : QPalette::Window, back);
+    palette.setColor(box ? QPalette::Text : QPalette::WindowText, text);
+    widget_->setPalette(palette);
+}
+
+void ControlView::sync(const QPoint& shift) {
     const auto name = toQt(plainCaption(control_->caption));
     if (name != target().accessibleName()) {
         target().setAccessibleName(name);
     }
     syncFont();
+    if (const auto place = placeOf(pixels(control_->bounds).translated(shift)); place != widget_->geometry()) {
+        widget_->setGeometry(place);
+    }
+    syncColour();
     widget_->setEnabled(control_->enabled);
     syncContent();
     const bool onPage = control_->strip == nullptr || control_->strip->tabs().current == control_->page;

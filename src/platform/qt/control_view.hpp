@@ -2,12 +2,14 @@
 
 #include "platform/desk.hpp"
 
+#include <QColor>
 #include <QFont>
 #include <QPoint>
 #include <QPointer>
 #include <QRect>
 #include <QWidget>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -20,6 +22,8 @@ struct Ground {
     Desk& desk;
     bool syncing = false; ///< the widgets are being set from the state: what they report is no person's doing
     int acting = 0;       ///< acts under way; the focus moves of the toolkit inside them are only their consequence
+    /// The window system has put one of our windows in front.
+    std::function<void()> activated{};
 
     /// Carries out a person's act; a failure inside ends the program and never crosses the toolkit.
     void act(const std::function<void()>& action) {
@@ -58,16 +62,20 @@ public:
 protected:
     void setWidget(QWidget* widget);
     virtual void syncContent() {}
+    /// Where the widget lies, when that is another place than the control's own.
+    [[nodiscard]] virtual QRect placeOf(const QRect& own) { return own; }
     [[nodiscard]] Ground& ground() const { return *ground_; }
     [[nodiscard]] Desk& desk() const { return ground_->desk; }
     void act(const std::function<void()>& action) const { ground_->act(action); }
 
 private:
     void syncFont();
+    void syncColour();
 
     Control* control_;
     Ground* ground_;
     QWidget* widget_ = nullptr;
+    std::int32_t backColor_ = -1;
 };
 
 /// The view of a control's kind; null for menus and timers, which have no place in the window.
@@ -75,6 +83,7 @@ private:
 
 // One maker for each group of kinds.
 [[nodiscard]] std::unique_ptr<ControlView> makePlainView(Control& control, Ground& ground, QWidget* parent);
+[[nodiscard]] std::unique_ptr<ControlView> makeImageView(Control& control, Ground& ground, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> makeTextView(Control& control, Ground& ground, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> makeButtonView(Control& control, Ground& ground, QWidget* parent);
 [[nodiscard]] std::unique_ptr<ControlView> makeListView(Control& control, Ground& ground, QWidget* parent);
@@ -86,6 +95,8 @@ private:
 /// How far a grid's columns are scrolled to the left, in pixels; 0 for other views.
 [[nodiscard]] int scrolledColumns(const ControlView& view);
 
+/// A background of the logic, red + 256 green + 65536 blue.
+[[nodiscard]] QColor colourOf(std::int32_t backColor);
 /// Twips as logical pixels.
 [[nodiscard]] int pixels(Twips length);
 [[nodiscard]] QRect pixels(const Bounds& bounds);

@@ -2,11 +2,8 @@
 #include "platform/qt/look.hpp"
 #include "platform/qt/text_codec.hpp"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFrame>
 #include <QGroupBox>
-#include <QImageReader>
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
@@ -25,13 +22,48 @@ public:
 
 private:
     void syncContent() override {
-        const auto text = toQt(plainCaption(control().caption)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-        if (text != label_->text()) {
+        if (const auto text = shownText(); text != label_->text()) {
             label_->setText(text);
         }
         label_->setAlignment((control().alignRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-        label_->setWordWrap(label_->height() >= 2 * label_->fontMetrics().height());
+        label_->setWordWrap(wraps(label_->height()));
     }
+    /// A text of one line that is wider than its place takes the free room beside it, and is set a little narrower when that
+    /// isn't enough: a unit or a caption is never cut.
+    [[nodiscard]] QRect placeOf(const QRect& own) override {
+        if (wraps(own.height())) {
+            return own;
+        }
+        const auto* parent = label_->parentWidget();
+        const int missing = std::max(needed(Plain) - own.width(), 0);
+        const int room = control().alignRight ? own.left() - Edge : parent->width() - Edge - own.right();
+        const int taken = std::min(std::max(room, 0), missing);
+        const auto place = own.adjusted(control().alignRight ? -taken : 0, 0, control().alignRight ? 0 : taken, 0);
+        narrow(place.width());
+        return place;
+    }
+    void narrow(int width) {
+        for (const int stretch : {Plain, 95, 90, 85, Narrowest}) {
+            auto font = label_->font();
+            font.setStretch(stretch);
+            if (needed(stretch) <= width || stretch == Narrowest) {
+                if (font != label_->font()) {
+                    label_->setFont(font);
+                }
+                return;
+            }
+        }
+    }
+    [[nodiscard]] int needed(int stretch) const {
+        auto font = label_->font();
+        font.setStretch(stretch);
+        return QFontMetrics(font).horizontalAdvance(shownText()) + 1;
+    }
+    [[nodiscard]] bool wraps(int height) const { return height >= 2 * label_->fontMetrics().height(); }
+    [[nodiscard]] QString shownText() const {
+        return toQt(plainCaption(control().caption)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    }
+    static constexpr int Edge = 2, Plain = QFont::Unstretched, Narrowest = 80;
     QLabel* label_;
 };
 
@@ -93,43 +125,6 @@ public:
     }
 };
 
-/// A picture of a file beside the program, fitted into its place. A file that isn't there leaves it empty.
-class ImageView final : public ControlView {
-public:
-    ImageView(Control& control, Ground& ground, QWidget* parent) : ControlView(control, ground), label_(new QLabel(parent)) {
-        label_->setAlignment(Qt::AlignCenter);
-        setWidget(label_);
-    }
-
-private:
-    void syncContent() override {
-        const auto& path = std::get<ImagePart>(control().part).path;
-        if (path == shown_ && label_->size() == size_) {
-            return;
-        }
-        shown_ = path;
-        size_ = label_->size();
-        label_->setPixmap(path.empty() ? QPixmap() : load(path));
-    }
-    [[nodiscard]] QPixmap load(const std::string& path) const {
-        auto name = toQt(path);
-        name.replace(QLatin1Char('\\'), QLatin1Char('/'));
-        QImageReader reader(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(name));
-        // By its name alone a ".dib" would be one without the head that picture files have.
-        reader.setDecideFormatFromContent(true);
-        const auto ratio = label_->devicePixelRatioF();
-        if (const auto whole = reader.size(); whole.isValid()) {
-            reader.setScaledSize(whole.scaled((QSizeF(label_->size()) * ratio).toSize(), Qt::KeepAspectRatio));
-        }
-        auto picture = QPixmap::fromImage(reader.read());
-        picture.setDevicePixelRatio(ratio);
-        return picture;
-    }
-    QLabel* label_;
-    std::string shown_;
-    QSize size_;
-};
-
 class ProgressView final : public ControlView {
 public:
     ProgressView(Control& control, Ground& ground, QWidget* parent)
@@ -166,7 +161,7 @@ std::unique_ptr<ControlView> makePlainView(Control& control, Ground& ground, QWi
     case ControlKind::Line:
         return std::make_unique<LineView>(control, ground, parent);
     case ControlKind::Image:
-        return std::make_unique<ImageView>(control, ground, parent);
+        return makeImageView(control, ground, parent);
     case ControlKind::Progress:
         return std::make_unique<ProgressView>(control, ground, parent);
     default:

@@ -1,26 +1,18 @@
 #include "platform/qt/qt_window.hpp"
 
 #include "platform/qt/key_map.hpp"
+#include "platform/qt/status_strip.hpp"
 #include "platform/qt/text_codec.hpp"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLocale>
 #include <QMenuBar>
-#include <QScreen>
-#include <QStatusBar>
-#include <QTime>
 #include <QTimer>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kov::qt {
 namespace {
-
-constexpr int ClockInterval = 1000;
 
 /// Later ones lie above earlier ones; a box over a grid lies on top.
 int layer(ControlKind kind) {
@@ -63,22 +55,7 @@ QtWindow::QtWindow(Window& window, Ground& ground, bool realTimers)
         setWindowModality(Qt::ApplicationModal);
     }
     if (window.name() == "frmMain") {
-        status_ = new QStatusBar(this);
-        for (std::size_t i = 0; i < panels_.size(); ++i) {
-            panels_.at(i) = new QLabel(status_);
-            panels_.at(i)->setObjectName(QStringLiteral("StatBar1.%1").arg(i + 1));
-            panels_.at(i)->setTextFormat(Qt::PlainText);
-            panels_.at(i)->setMinimumWidth(1);
-            status_->addWidget(panels_.at(i), i == 1 ? 1 : 0);
-        }
-        panels_.at(0)->setFixedWidth(pixels(Twips{1500}));
-        panels_.at(2)->setAlignment(Qt::AlignCenter);
-        panels_.at(2)->setFixedWidth(pixels(Twips{1200}));
-        auto* clock = new QTimer(this);
-        QObject::connect(clock, &QTimer::timeout, this, [this] { syncStatus(); });
-        if (realTimers) {
-            clock->start(ClockInterval);
-        }
+        status_ = new StatusStrip(ground.desk, realTimers, this);
     }
 }
 
@@ -150,7 +127,9 @@ void QtWindow::sync() {
         }
     }
     syncTimers();
-    syncStatus();
+    if (status_ != nullptr) {
+        status_->sync();
+    }
     syncPopup();
 }
 
@@ -235,19 +214,6 @@ void QtWindow::syncTimers() {
     }
 }
 
-void QtWindow::syncStatus() {
-    if (status_ == nullptr || window_ == nullptr) {
-        return;
-    }
-    for (int i = 0; i < 2; ++i) {
-        const auto text = toQt(ground_->desk.panel(i + 1));
-        if (auto* panel = panels_.at(static_cast<std::size_t>(i)); panel->text() != text) {
-            panel->setText(text);
-        }
-    }
-    panels_.at(2)->setText(QLocale().toString(QTime::currentTime(), QLocale::ShortFormat));
-}
-
 void QtWindow::syncPopup() {
     for (const auto& control : window_->controls()) {
         if (control->kind == ControlKind::Menu && control->menu().popup) {
@@ -283,7 +249,6 @@ void QtWindow::abandon() {
 // From the person to the desk.
 
 void QtWindow::person() {
-    // Another window of ours came to the front by the window system.
     if (window_ == nullptr || ground_->syncing || ground_->acting > 0 || ground_->desk.front() == window_) {
         return;
     }
@@ -302,8 +267,8 @@ void QtWindow::person() {
 }
 
 bool QtWindow::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) {
-        person();
+    if (event->type() == QEvent::WindowActivate && ground_->activated) {
+        ground_->activated();
     }
     return QWidget::event(event);
 }
@@ -323,8 +288,10 @@ bool QtWindow::eventFilter(QObject* watched, QEvent* event) {
         return watched != &view.surface() && watched != &view.target() ? false
                                                                        : view.pressed(static_cast<QMouseEvent&>(*event));
     case QEvent::FocusIn:
-        // Assistive tools move the focus by the toolkit.
-        if (!ground_->syncing && ground_->acting == 0 && ground_->desk.focus() != &control) {
+        // Assistive tools move the focus by the toolkit. What comes along with a window to the front is heard of when it rests
+        // there.
+        if (static_cast<QFocusEvent&>(*event).reason() != Qt::ActiveWindowFocusReason && !ground_->syncing &&
+            ground_->acting == 0 && ground_->desk.focus() != &control) {
             ground_->act([&] { ground_->desk.focusOn(control); });
         }
         return false;
@@ -386,12 +353,16 @@ void QtWindow::resizeEvent(QResizeEvent* event) {
 
 void QtWindow::moveEvent(QMoveEvent* event) {
     QWidget::moveEvent(event);
-    if (window_ == nullptr || ground_->syncing || !placed_ || isMinimized() || !isVisible()) {
+    // While it is an icon, and when it becomes one, the window system moves it as it likes.
+    if (window_ == nullptr || ground_->syncing || !placed_ || isMinimized() || window_->minimized || !isVisible()) {
         return;
     }
     auto& bounds = window_->bounds;
-    if (pos().x() != pixels(bounds.left) || pos().y() != pixels(bounds.top)) {
+    // A place that is the same pixel keeps its fraction.
+    if (pos().x() != pixels(bounds.left)) {
         bounds.left = applied_.left = Twips::ofPixels(pos().x());
+    }
+    if (pos().y() != pixels(bounds.top)) {
         bounds.top = applied_.top = Twips::ofPixels(pos().y());
     }
 }

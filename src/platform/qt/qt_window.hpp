@@ -5,18 +5,17 @@
 
 #include <QWidget>
 
-#include <array>
 #include <map>
 #include <memory>
 #include <unordered_map>
 
 class QKeyEvent;
-class QLabel;
 class QMenuBar;
-class QStatusBar;
 class QTimer;
 
 namespace kov::qt {
+
+class StatusStrip;
 
 /// The real window of one window of the desk: menu bar, the controls on an area as large as the window's bounds, and for the
 /// main window the status bar.
@@ -28,6 +27,8 @@ public:
     void sync();
     /// The desk's window is gone; nothing of it is touched any more.
     void abandon();
+    /// A person has brought it to the front by the window system.
+    void person();
     /// The focus goes to that control's widget.
     void focus(const Control& control);
     [[nodiscard]] Window* window() const { return window_; }
@@ -49,9 +50,7 @@ private:
     void syncPlace();
     void syncPopup();
     void syncTimers();
-    void syncStatus();
     void arrange();
-    void person();
     [[nodiscard]] int extraHeight() const;
     [[nodiscard]] QPoint shiftOf(const Control& control) const;
     [[nodiscard]] bool keyPressed(ControlView& view, const QKeyEvent& event);
@@ -62,8 +61,7 @@ private:
     bool realTimers_;
     QMenuBar* bar_;
     QWidget* area_;
-    QStatusBar* status_ = nullptr;
-    std::array<QLabel*, 3> panels_{};
+    StatusStrip* status_ = nullptr;
     Menus menus_;
     std::map<const Control*, std::unique_ptr<ControlView>> views_;
     std::unordered_map<const QObject*, ControlView*> watched_;

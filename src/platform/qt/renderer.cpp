@@ -13,17 +13,26 @@ namespace {
 
 /// While a long task runs, more pictures a second than that only cost time.
 constexpr int BusyMilliseconds = 16;
+/// The window system tells in bits, and late: first when it has come to rest, what it tells counts.
+constexpr int RestMilliseconds = 30;
+/// A window system that doesn't bring our window to the front is not waited for any longer.
+constexpr int AwaitMilliseconds = 2000;
 
 } // namespace
 
 Renderer::Renderer(Desk& desk, Options options) : ground_{desk}, options_(options) {
     desk.onChanged = [this] { changed(); };
     desk.onBeep = [] { QApplication::beep(); };
+    ground_.activated = [this] { rest_.start(); };
+    rest_.setSingleShot(true);
+    rest_.setInterval(RestMilliseconds);
+    QObject::connect(&rest_, &QTimer::timeout, &context_, [this] { activated(); });
 }
 
 Renderer::~Renderer() {
     ground_.desk.onChanged = nullptr;
     ground_.desk.onBeep = nullptr;
+    ground_.activated = nullptr; // windows that go may bring others to the front
     if (busyShown_) {
         QApplication::restoreOverrideCursor();
     }
@@ -89,8 +98,26 @@ void Renderer::syncOrder() {
         auto& window = *windows_.at(front);
         if (!window.isMinimized()) {
             window.raise();
+            awaited_ = front;
+            awaiting_.start();
             window.activateWindow();
         }
+    }
+}
+
+void Renderer::activated() {
+    const auto* active = QApplication::activeWindow();
+    const auto found =
+        std::find_if(windows_.begin(), windows_.end(), [&](const auto& window) { return window.second.get() == active; });
+    if (found == windows_.end()) {
+        return;
+    }
+    if (found->first == awaited_ || awaiting_.hasExpired(AwaitMilliseconds)) {
+        awaited_ = nullptr;
+    }
+    // Until the window is there that we have asked for, another one in front is old news.
+    if (awaited_ == nullptr) {
+        found->second->person();
     }
 }
 

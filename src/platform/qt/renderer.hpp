@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <map>
@@ -40,13 +41,17 @@ private:
     void dropClosed();
     void syncOrder();
     void syncPointer();
+    void activated();
 
     Ground ground_;
     Options options_;
     std::map<const Window*, std::unique_ptr<QtWindow>> windows_;
     const Window* front_ = nullptr;
+    const Window* awaited_ = nullptr; // asked to come to the front, and not seen there yet
+    QElapsedTimer awaiting_;
     QElapsedTimer lastSync_;
     QObject context_;
+    QTimer rest_;
     bool syncPending_ = false;
     bool busyShown_ = false;
     bool endTold_ = false;

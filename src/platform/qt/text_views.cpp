@@ -46,7 +46,8 @@ void LineEditMirror::edited() {
 
 void LineEditMirror::mirrorSelection() {
     auto& box = control_->text();
-    if (!ground_->syncing && edit_->text() == toQt(box.text)) {
+    // A box that the focus has left shows no selection, and keeps the one that it had.
+    if (!ground_->syncing && ground_->desk.focus() == control_ && edit_->text() == toQt(box.text)) {
         box.selStart = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
         box.selLength = edit_->selectionLength();
     }
@@ -65,11 +66,15 @@ void LineEditMirror::sync() {
         }
     }
     const int start = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
-    if (start != box.selStart || edit_->selectionLength() != box.selLength) {
+    if (ground_->desk.focus() != control_) {
+        edit_->deselect();
+        edit_->home(false); // a long text shows its beginning
+    } else if (start != box.selStart || edit_->selectionLength() != box.selLength) {
         edit_->deselect();
         edit_->setCursorPosition(box.selStart);
         if (box.selLength > 0) {
-            edit_->setSelection(box.selStart, box.selLength);
+            // From its end, so that the beginning of a long text is in sight.
+            edit_->setSelection(box.selStart + box.selLength, -box.selLength);
         }
     }
     if (edit_->isReadOnly() != box.locked) {

@@ -9,7 +9,7 @@ namespace kov {
 namespace {
 
 constexpr double Margin = 180, Gap = 90, Line = 315, Width = DesignWidth.value - 2 * Margin;
-constexpr double TitleHeight = 1770, ButtonHeight = 450;
+constexpr double TitleHeight = 2850, ButtonHeight = 450;
 constexpr int ButtonColumns = 5;
 
 struct MenuEntry {
