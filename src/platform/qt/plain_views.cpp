@@ -28,25 +28,35 @@ private:
         label_->setAlignment((control().alignRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
         label_->setWordWrap(wraps(label_->height()));
     }
-    /// A text of one line that is wider than its place takes the free room beside it, and is set a little narrower when that
-    /// isn't enough: a unit or a caption is never cut.
+    /// A text that is wider than its place takes the free room beside it, and is set a little narrower when that isn't enough:
+    /// a unit or a caption is never cut. In a place of several lines only its longest word, or a little more, has to fit.
     [[nodiscard]] QRect placeOf(const QRect& own) override {
-        if (wraps(own.height())) {
-            return own;
-        }
+        const bool tall = wraps(own.height());
+        const int missing = std::max(wanted(own.width(), tall) - own.width(), 0);
         const auto* parent = label_->parentWidget();
-        const int missing = std::max(needed(Plain) - own.width(), 0);
         const int room = control().alignRight ? own.left() - Edge : parent->width() - Edge - own.right();
         const int taken = std::min(std::max(room, 0), missing);
         const auto place = own.adjusted(control().alignRight ? -taken : 0, 0, control().alignRight ? 0 : taken, 0);
-        narrow(place.width());
+        narrow(tall ? QWIDGETSIZE_MAX : place.width());
         return place;
+    }
+    [[nodiscard]] int wanted(int width, bool tall) const {
+        const auto text = shownText();
+        const int whole = needed(text, Plain);
+        if (!tall || (!control().index && whole - width <= Little)) { // columns stand close by
+            return whole;
+        }
+        int longest = 0;
+        for (const auto& word : text.split(QLatin1Char(' '))) {
+            longest = std::max(longest, needed(word, Plain));
+        }
+        return longest;
     }
     void narrow(int width) {
         for (const int stretch : {Plain, 95, 90, 85, Narrowest}) {
             auto font = label_->font();
             font.setStretch(stretch);
-            if (needed(stretch) <= width || stretch == Narrowest) {
+            if (needed(shownText(), stretch) <= width || stretch == Narrowest) {
                 if (font != label_->font()) {
                     label_->setFont(font);
                 }
@@ -54,16 +64,16 @@ private:
             }
         }
     }
-    [[nodiscard]] int needed(int stretch) const {
+    [[nodiscard]] int needed(const QString& text, int stretch) const {
         auto font = label_->font();
         font.setStretch(stretch);
-        return QFontMetrics(font).horizontalAdvance(shownText()) + 1;
+        return QFontMetrics(font).horizontalAdvance(text) + 1;
     }
     [[nodiscard]] bool wraps(int height) const { return height >= 2 * label_->fontMetrics().height(); }
     [[nodiscard]] QString shownText() const {
         return toQt(plainCaption(control().caption)).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     }
-    static constexpr int Edge = 2, Plain = QFont::Unstretched, Narrowest = 80;
+    static constexpr int Edge = 2, Little = 8, Plain = QFont::Unstretched, Narrowest = 80;
     QLabel* label_;
 };
 

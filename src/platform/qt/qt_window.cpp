@@ -14,6 +14,8 @@
 namespace kov::qt {
 namespace {
 
+constexpr int StateMilliseconds = 500;
+
 /// Later ones lie above earlier ones; a box over a grid lies on top.
 int layer(ControlKind kind) {
     switch (kind) {
@@ -353,8 +355,9 @@ void QtWindow::resizeEvent(QResizeEvent* event) {
 
 void QtWindow::moveEvent(QMoveEvent* event) {
     QWidget::moveEvent(event);
-    // While it is an icon, and when it becomes one, the window system moves it as it likes.
-    if (window_ == nullptr || ground_->syncing || !placed_ || isMinimized() || window_->minimized || !isVisible()) {
+    // While it is an icon, and when it becomes one or comes back, the window system moves it as it likes.
+    if (window_ == nullptr || ground_->syncing || !placed_ || isMinimized() || window_->minimized || !isVisible() ||
+        (stateChanged_.isValid() && !stateChanged_.hasExpired(StateMilliseconds))) {
         return;
     }
     auto& bounds = window_->bounds;
@@ -369,6 +372,9 @@ void QtWindow::moveEvent(QMoveEvent* event) {
 
 void QtWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        stateChanged_.start();
+    }
     if (event->type() != QEvent::WindowStateChange || window_ == nullptr || ground_->syncing ||
         isMinimized() == window_->minimized) {
         return;

@@ -3,6 +3,7 @@
 #include "platform/qt/control_view.hpp"
 #include "platform/qt/menus.hpp"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include <map>
@@ -68,6 +69,7 @@ private:
     std::map<const Control*, QTimer*> timers_;
     std::size_t known_ = 0; // controls of the window that have their view
     Bounds applied_;
+    QElapsedTimer stateChanged_;
     bool placed_ = false;
     bool topmost_ = false;
 };
