@@ -55,6 +55,12 @@ std::string_view CardReader::readLine() {
     return line;
 }
 
+bool CardReader::atEnd() {
+    while (next_ >= text_.size() && refill()) {
+    }
+    return next_ >= text_.size();
+}
+
 bool CardReader::refill() {
     if (!source_) {
         return false;
@@ -135,16 +141,16 @@ void CardWriter::endCard() {
     lineStart_ = out_.size();
 }
 
-void CardWriter::endBrokenCard() {
-    if (out_.size() != lineStart_) {
-        endCard();
-    }
-}
-
 void CardWriter::flush() {
     if (sink_) {
         sink_(out_);
         out_.clear();
+    }
+}
+
+void CardWriter::endBrokenCard() {
+    if (out_.size() != lineStart_) {
+        endCard();
     }
 }
 

@@ -104,10 +104,10 @@ public:
     CardWriter& tabTo(std::size_t column);
     /// Ends the line.
     void endCard();
-    /// Ends the line where one was begun.
-    void endBrokenCard();
     /// Hands on what the sink hasn't had yet.
     void flush();
+    /// Ends the line where one was begun.
+    void endBrokenCard();
 
     void reserve(std::size_t bytes) { out_.reserve(bytes); }
     [[nodiscard]] const std::string& content() const { return out_; }
