@@ -37,8 +37,6 @@ void requireField(std::size_t number, std::size_t highest) {
 Fixed<10> CardInt(std::int16_t value) { return numberField(value, ""); }
 Fixed<10> CardReal(std::int32_t value) { return numberField(value, "."); }
 
-bool CardReader::atEnd() { return next_ >= text_.size() && !refill(); }
-
 std::string_view CardReader::readLine() {
     auto end = text_.find('\n', next_);
     while (end == std::string_view::npos && refill()) {
