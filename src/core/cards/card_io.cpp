@@ -143,6 +143,7 @@ void CardWriter::flush() {
     if (sink_) {
         sink_(out_);
         out_.clear();
+        lineStart_ = 0;
     }
 }
 
