@@ -63,7 +63,7 @@ class ProbePlugin final : public QGenericPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "start_probe.json")
 public:
-    QObject* create(const QString& key, const QString& /*specification*/) override {
+    QObject* create(const QString& key, const QString& /*arguments*/) override {
         if (key.compare(QStringLiteral("kovprobe"), Qt::CaseInsensitive) != 0) {
             return nullptr;
         }

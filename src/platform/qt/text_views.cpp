@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace kov::qt {
 
@@ -45,12 +46,37 @@ void LineEditMirror::edited() {
 }
 
 void LineEditMirror::mirrorSelection() {
-    auto& box = control_->text();
     // A box that the focus has left shows no selection, and keeps the one that it had.
-    if (!ground_->syncing && ground_->desk.focus() == control_ && edit_->text() == toQt(box.text)) {
+    if (showing_ || ground_->desk.focus() != control_) {
+        return;
+    }
+    if (!edit_->hasFocus()) {
+        showSelection(); // the toolkit takes it away when its own focus goes, with the window's for one
+        return;
+    }
+    auto& box = control_->text();
+    if (!ground_->syncing && edit_->text() == toQt(box.text)) {
         box.selStart = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
         box.selLength = edit_->selectionLength();
     }
+}
+
+void LineEditMirror::showSelection() {
+    const auto& box = control_->text();
+    const int start = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
+    const bool showing = std::exchange(showing_, true);
+    if (ground_->desk.focus() != control_) {
+        edit_->deselect();
+        edit_->home(false); // a long text shows its beginning
+    } else if (start != box.selStart || edit_->selectionLength() != box.selLength) {
+        edit_->deselect();
+        edit_->setCursorPosition(box.selStart);
+        if (box.selLength > 0) {
+            // From its end, so that the beginning of a long text is in sight.
+            edit_->setSelection(box.selStart + box.selLength, -box.selLength);
+        }
+    }
+    showing_ = showing;
 }
 
 void LineEditMirror::sync() {
@@ -65,18 +91,7 @@ void LineEditMirror::sync() {
             edit_->setText(text);
         }
     }
-    const int start = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
-    if (ground_->desk.focus() != control_) {
-        edit_->deselect();
-        edit_->home(false); // a long text shows its beginning
-    } else if (start != box.selStart || edit_->selectionLength() != box.selLength) {
-        edit_->deselect();
-        edit_->setCursorPosition(box.selStart);
-        if (box.selLength > 0) {
-            // From its end, so that the beginning of a long text is in sight.
-            edit_->setSelection(box.selStart + box.selLength, -box.selLength);
-        }
-    }
+    showSelection();
     if (edit_->isReadOnly() != box.locked) {
         edit_->setReadOnly(box.locked);
     }

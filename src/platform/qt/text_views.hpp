@@ -17,11 +17,13 @@ public:
 
 private:
     void mirrorSelection();
+    void showSelection();
     void edited();
 
     Control* control_;
     Ground* ground_;
     QLineEdit* edit_;
+    bool showing_ = false; // what the box reports is our own doing
 };
 
 /// The one stretch that two texts differ in.
