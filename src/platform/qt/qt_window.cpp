@@ -227,10 +227,12 @@ void QtWindow::syncPopup() {
 
 void QtWindow::focus(const Control& control) {
     const auto found = views_.find(&control);
-    if (found != views_.end() && QWidget::focusWidget() != &found->second->target()) {
-        found->second->target().setFocus(Qt::OtherFocusReason);
-    } else if (found != views_.end() && isActiveWindow() && !found->second->target().hasFocus()) {
-        found->second->target().setFocus(Qt::OtherFocusReason);
+    if (found == views_.end()) {
+        return;
+    }
+    auto& target = found->second->target();
+    if (QWidget::focusWidget() != &target || (isActiveWindow() && !target.hasFocus())) {
+        target.setFocus(Qt::OtherFocusReason);
     }
 }
 
