@@ -15,7 +15,7 @@ using Anchor = DrawingPart::Anchor;
 
 constexpr double Largest = 1e9, MostSteps = 5, Slack = 1e-9;
 // All in twips.
-constexpr double LeftMargin = 700, PlainRight = 260, RightMargin = 700, TopMargin = 330, NumbersBelow = 340, UnitBelow = 280,
+constexpr double LeftMargin = 700, PlainRight = 400, RightMargin = 700, TopMargin = 330, NumbersBelow = 340, UnitBelow = 280,
                  TickLength = 60, TextHeight = 220, Character = 92, LegendLine = 240;
 
 /// The least of 1, 2 and 5 times a power of ten that isn't below the value.
