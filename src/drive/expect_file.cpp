@@ -27,8 +27,9 @@ Act sameFile(const std::string& path, const std::string& other) {
         const auto about = "file " + inQuotes(path) + " same " + inQuotes(other);
         for (std::size_t i = 0; i < std::min(lines.size(), otherLines.size()); ++i) {
             if (lines[i] != otherLines[i]) {
-                const auto number = std::to_string(i + 1);
-                stage.expect(false, about + ", line " + number + " " + inQuotes(otherLines[i]), inQuotes(lines[i]));
+                auto line = about;
+                line.append(", line ").append(std::to_string(i + 1)).append(" ").append(inQuotes(otherLines[i]));
+                stage.expect(false, line, inQuotes(lines[i]));
                 return;
             }
         }

@@ -104,6 +104,15 @@ std::string pasted(const TextPart& box, std::string_view text) {
     return lines;
 }
 
+/// Space clicks whatever can be clicked, Enter a button.
+bool clicks(ControlKind kind, int character) {
+    if (character == CharacterEnter) {
+        return kind == ControlKind::Button;
+    }
+    return character == keys::Space &&
+           (kind == ControlKind::Button || kind == ControlKind::CheckBox || kind == ControlKind::OptionButton);
+}
+
 } // namespace
 
 bool Desk::press(Control& control, int code, int shift) {
@@ -126,10 +135,7 @@ void Desk::pressCharacter(Control& control, int character) {
         if (typeInto(control.text(), character)) {
             changed(control);
         }
-    } else if (character == keys::Space && (control.kind == ControlKind::Button || control.kind == ControlKind::CheckBox ||
-                                            control.kind == ControlKind::OptionButton)) {
-        click(control);
-    } else if (control.kind == ControlKind::Button && character == CharacterEnter) {
+    } else if (clicks(control.kind, character)) {
         click(control);
     } else if (character >= keys::Space && (control.kind == ControlKind::List || control.kind == ControlKind::Combo)) {
         if (const int entry = entryBeginningWith(control.items(), character); entry >= 0) {
