@@ -86,7 +86,8 @@ void cursorHome(TextPart& box) {
 
 void cursorEnd(TextPart& box) {
     clampSelection(box);
-    const auto end = box.text.find("\r\n", static_cast<std::size_t>(box.selStart + box.selLength));
+    const auto from = static_cast<std::size_t>(box.selStart) + static_cast<std::size_t>(box.selLength);
+    const auto end = box.text.find("\r\n", from);
     box.selStart = end == std::string::npos ? size(box) : static_cast<int>(end);
     box.selLength = 0;
 }
