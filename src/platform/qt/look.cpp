@@ -20,7 +20,7 @@ struct Colours {
 Colours coloursOf(Look look) {
     if (look == Look::Dark) {
         return {QColor(0x2b2d31), QColor(0x1f2124), QColor(0x26282c), QColor(0x383b40), QColor(0xe6e6e6),
-                QColor(0x83878d), QColor(0x3d7edb), QColor(0x4b4f55), QColor(0x45494f), QColor(0x17181a)};
+                QColor(0x83878d), QColor(0x3d7edb), QColor(0x33363b), QColor(0x45494f), QColor(0x17181a)};
     }
     return {QColor(0xf3f4f6), QColor(0xffffff), QColor(0xf7f8fa), QColor(0xfafafb), QColor(0x1d2025),
             QColor(0x8d9299), QColor(0x2563c9), QColor(0xffffff), QColor(0xc9cdd3), QColor(0x9aa0a8)};

@@ -42,6 +42,13 @@ Wrapped wrap(std::string_view caption, int characters) {
 
 double textWidth(std::size_t characters) { return static_cast<double>(characters) * Character; }
 double plainWidth(std::string_view caption) { return textWidth(trim(plainCaption(caption)).size()); }
+/// Units are short and often capitals, which are wider than the average that longer texts come close to.
+double unitTextWidth(std::string_view unit) {
+    constexpr double Capital = 0.4 * Character;
+    const auto wide =
+        std::count_if(unit.begin(), unit.end(), [](char c) { return (c >= 'A' && c <= 'Z') || c == 'm' || c == '%'; });
+    return plainWidth(unit) + static_cast<double>(wide) * Capital;
+}
 double linesHeight(int lines) { return lines == 1 ? BoxHeight : lines * TextLine; }
 
 void placeAt(Control& control, double left, double top, double width, double height) {
@@ -85,7 +92,7 @@ Control* LayoutPanel::unit(std::string_view control, std::string_view text) {
     if (text.empty()) {
         return nullptr;
     }
-    unitWidth_ = std::max(unitWidth_, plainWidth(text));
+    unitWidth_ = std::max(unitWidth_, unitTextWidth(text));
     return &add(ControlKind::Label, "unit" + withoutPrefix(control), text);
 }
 
