@@ -1,5 +1,6 @@
 #include "platform/qt/grid_widget.hpp"
 
+#include "core/cards/fixed.hpp"
 #include "platform/qt/control_view.hpp"
 #include "platform/qt/look.hpp"
 #include "platform/qt/text_codec.hpp"
@@ -125,7 +126,8 @@ void GridWidget::paintCell(QPainter& painter, int row, int col) const {
     painter.setPen(lineColor(palette()));
     painter.drawLine(rect.right(), rect.top(), rect.right(), rect.bottom());
     painter.drawLine(rect.left(), rect.bottom(), rect.right(), rect.bottom());
-    const auto& text = grid_->text(row, col);
+    // Fields of a card end in blanks, which nobody misses.
+    const auto text = trimRight(grid_->text(row, col));
     if (!text.empty()) {
         painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Text));
         const auto inner = rect.adjusted(TextMargin, 0, -TextMargin, -1);

@@ -1,9 +1,11 @@
 #include "shell/entry/layout.hpp"
 
 #include "core/cards/fixed.hpp"
+#include "core/cards/numbers.hpp"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace kov {
 namespace {
@@ -14,7 +16,7 @@ constexpr double Gap = 90, Margin = 60;
 constexpr double PanelSide = 105, PanelTitle = 330, PanelBottom = 90;
 constexpr double BoxWidth = 1050, BoxHeight = 315, BoxPadding = 90, DropButton = 210, Tick = 330;
 constexpr double ButtonWidth = 1200, ButtonHeight = 405, ButtonPadding = 300;
-constexpr double CellHeight = 300, CellWidth = 1200, ScrollBar = 330, Pixel = 15;
+constexpr double CellHeight = 300, TextCellWidth = 1600, ScrollBar = 330, Pixel = 15;
 constexpr int HeadingCharacters = 11;
 
 struct Wrapped {
@@ -62,6 +64,18 @@ std::string withoutPrefix(std::string_view control) {
         }
     }
     return std::string(control);
+}
+
+/// What a cell of the column may hold: a number of a card never has more than ten characters, one with narrow limits has fewer.
+double cellWidth(const Column& column) {
+    constexpr std::size_t NarrowestInteger = 6, NarrowestReal = 8, CardColumns = 10;
+    const auto narrowest = column.rule.kind == FieldKind::Real ? NarrowestReal : NarrowestInteger;
+    if (column.rule.kind == FieldKind::Text) {
+        return TextCellWidth;
+    }
+    const auto widest =
+        std::max(bareNumber(std::llround(column.rule.low)).size(), bareNumber(std::llround(column.rule.high)).size());
+    return textWidth(std::clamp(widest + 2, narrowest, CardColumns)) + 2 * BoxPadding;
 }
 
 /// The longest line of a heading that stands over a column.
@@ -210,7 +224,7 @@ GridControls LayoutPanel::grid(std::string_view name, std::span<const Column> co
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const auto& column = columns[i];
         widths.push_back(
-            std::max({CellWidth, headingWidth(column.caption) + BoxPadding, plainWidth(column.unit) + BoxPadding}));
+            std::max({cellWidth(column), headingWidth(column.caption) + BoxPadding, plainWidth(column.unit) + BoxPadding}));
         auto& heading = add(ControlKind::Label, "lbl" + withoutPrefix(name), column.caption);
         heading.index = static_cast<int>(i);
         placeAt(heading, left, 0, widths.back(), unitTop);

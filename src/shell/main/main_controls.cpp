@@ -109,8 +109,9 @@ void addButtons(Window& window, double top) {
         for (const auto& destination : Destinations) {
             if (destination.button == index) {
                 auto& button = window.add(ControlKind::Button, "Command1", std::string(destination.buttonCaption), index);
-                place(button, Margin + (index % ButtonColumns) * (width + Gap),
-                      top + (index / ButtonColumns) * (ButtonHeight + Gap), width, ButtonHeight);
+                const int row = index / ButtonColumns;
+                const int column = index % ButtonColumns;
+                place(button, Margin + column * (width + Gap), top + row * (ButtonHeight + Gap), width, ButtonHeight);
             }
         }
     }

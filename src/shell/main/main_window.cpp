@@ -15,7 +15,7 @@ constexpr std::int16_t VerifyOnly = -1;
 
 } // namespace
 
-MainWindow::MainWindow(Application& app, Window& window, std::string commandLine)
+MainWindow::MainWindow(Application& app, Window& window, const std::string& commandLine)
     : app_(app), window_(window), progress_(app, window),
       files_(app, {.showFields = [this] { Showflds(); },
                    .storeFields = [this] { storeFields(); },

@@ -15,7 +15,7 @@ namespace kov {
 class MainWindow {
 public:
     /// Fills the window, reads the settings and loads the file that the command line names, if any.
-    MainWindow(Application& app, Window& window, std::string commandLine);
+    MainWindow(Application& app, Window& window, const std::string& commandLine);
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
 
