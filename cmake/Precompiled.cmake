@@ -1,6 +1,6 @@
 # The standard headers that nearly every file includes, read once for all targets with the same flags. With a compiler cache
-# in front of the compiler they are left alone: the cache gains more when it is shared by several build folders. The preset
-# "headless" does without them, and finds the file that forgot an include.
+# in front of the compiler they are left alone: the cache gains more when it is shared by several build folders. clang-tidy
+# reads every file without them, and finds the one that forgot an include.
 option(KOV_PCH "Precompile the headers that nearly every file includes" ON)
 if(CMAKE_CXX_COMPILER_LAUNCHER)
   set(KOV_PCH OFF)
