@@ -2,7 +2,6 @@
 
 #include "core/cards/numbers.hpp"
 #include "line/editor/placing.hpp"
-#include "line/editor/top_row.hpp"
 
 #include <array>
 #include <utility>
@@ -61,7 +60,7 @@ std::span<const Column> LineSections::columns() { return Columns; }
 
 LineSections::LineSections(Application& app, Window& window)
     : app_(app), window_(window), data_(app.DataSet), sections_(data_->Sections), entry_(app, window, Traits),
-      grid_(buildGrid(window)) {
+      grid_(buildGrid(window)), rows_(app, window, entry_.flags, grid_) {
     build();
     wire();
     sections_.SectList(grid());
@@ -112,73 +111,31 @@ void LineSections::wire() {
 }
 
 void LineSections::wireMenus() {
-    window_.control("ME_Cut").on.click = [this] { onCut(); };
-    window_.control("ME_Copy").on.click = [this] { onCopy(); };
-    window_.control("ME_Paste").on.click = [this] { onPaste(); };
+    window_.control("ME_Cut").on.click = [this] { rows_.cut([this](Position position) { sections_.Cut(position); }); };
+    window_.control("ME_Copy").on.click = [this] { rows_.copy([this](Position position) { sections_.Copy(position); }); };
+    window_.control("ME_Paste").on.click = [this] { rows_.paste([this](const std::string& text) { onPaste(text); }); };
     window_.control("ME_Delete").on.click = [this] { onDelete(); };
     window_.control("ME_Insert").on.click = [this] { onInsert(); };
-    window_.control("ME_Default").on.click = [this] { sections_.SetDefault(current()); };
+    window_.control("ME_Default").on.click = [this] { sections_.SetDefault(rows_.current()); };
 }
 
 // What a person does with whole sections.
 
 void LineSections::onInsert() {
-    const auto section = sections_.Add(current());
+    const auto section = sections_.Add(rows_.current());
     grid().addItem(newRowText(*section), grid().row());
     entry_.flags.FormChanged = true;
 }
 
-void LineSections::removeRow(int row) {
-    grid().removeItem(row);
-    entry_.flags.FormChanged = true;
-}
-
 void LineSections::onDelete() {
-    const auto position = current();
-    const int top = grid().topRow();
-    removeRow(grid().row());
-    sections_.Delete(position);
-    restoreTopRow(grid(), top);
+    rows_.remove([this](Position position) { sections_.Delete(position); });
 }
 
-void LineSections::onCut() {
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^X");
-        return;
-    }
-    const auto position = current();
-    const int top = grid().topRow();
-    app_.desk.services().clipboard.setText(GridRowText(grid()));
-    removeRow(grid().row());
-    sections_.Cut(position);
-    restoreTopRow(grid(), top);
-}
-
-void LineSections::onCopy() {
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^C");
-        return;
-    }
-    app_.desk.services().clipboard.setText(GridRowText(grid()));
-    sections_.Copy(current());
-}
-
-void LineSections::onPaste() {
-    const auto text = app_.desk.services().clipboard.text();
-    if (!text) {
-        return;
-    }
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^V");
-        return;
-    }
-    grid().addItem(*text, grid().row());
+void LineSections::onPaste(const std::string& text) {
+    grid().addItem(text, grid().row());
     // At the last row the model appends while the grid row goes ahead: the grid shows the last two swapped until it is opened
     // again.
-    sections_.Paste(current());
+    sections_.Paste(rows_.current());
     grid().setCurrentText("0");
 }
 
@@ -216,7 +173,7 @@ void LineSections::store(int row, int col, std::string& text) {
 
 void LineSections::onSegments() {
     if (grid().row() < sections_.Count()) {
-        app_.lineSelection = {sections_.Section(current())->id, 1};
+        app_.lineSelection = {sections_.Section(rows_.current())->id, 1};
     }
     refreshWanted_ = true;
     if (sections_.Count() >= 1) {

@@ -4,6 +4,7 @@
 #include "shell/entry/application.hpp"
 #include "shell/entry/entry_window.hpp"
 #include "shell/entry/grid_overlay.hpp"
+#include "shell/entry/row_commands.hpp"
 
 #include <memory>
 #include <optional>
@@ -28,19 +29,14 @@ private:
     void wireMenus();
     [[nodiscard]] OverlayRules overlayRules();
     [[nodiscard]] Grid& grid() const { return grid_.grid(); }
-    [[nodiscard]] Position current() const { return Position{grid().row() + 1}; }
-    [[nodiscard]] bool gridIsActive() const { return window_.activeControl == &grid_; }
 
     void onInsert();
     void onDelete();
-    void onCut();
-    void onCopy();
-    void onPaste();
+    void onPaste(const std::string& text);
     void onSegments();
     void onActivate();
     void onClosing();
     void store(int row, int col, std::string& text);
-    void removeRow(int row);
 
     Application& app_;
     Window& window_;
@@ -48,6 +44,7 @@ private:
     cSections& sections_;
     EntryWindow entry_;
     Control& grid_;
+    RowCommands rows_;
     std::optional<GridOverlay> overlay_;
     bool refreshWanted_ = false;
 };

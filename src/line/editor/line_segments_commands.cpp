@@ -3,7 +3,7 @@
 
 #include "core/cards/failure.hpp"
 #include "core/cards/numbers.hpp"
-#include "line/editor/top_row.hpp"
+#include "shell/entry/row_commands.hpp"
 
 namespace kov {
 namespace {

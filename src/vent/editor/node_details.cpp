@@ -22,7 +22,7 @@ std::span<const Column> NodeDetails::columns() { return nodeColumns(); }
 
 NodeDetails::NodeDetails(Application& app, Window& window)
     : app_(app), window_(window), data_(app.DataSet), nodes_(data_->Nodes), entry_(app, window, Traits),
-      grid_(buildControls(window)) {
+      grid_(buildControls(window)), rows_(app, window, entry_.flags, grid_) {
     wireGrid();
     wireFields();
     wireTypes();
@@ -84,16 +84,16 @@ void NodeDetails::wireCommands() {
             close();
         }
     };
-    window_.control("ME_Cut").on.click = [this] { onCut(); };
-    window_.control("ME_Copy").on.click = [this] { onCopy(); };
-    window_.control("ME_Paste").on.click = [this] { onPaste(); };
+    window_.control("ME_Cut").on.click = [this] { rows_.cut([this](Position position) { nodes_.Cut(position); }); };
+    window_.control("ME_Copy").on.click = [this] { rows_.copy([this](Position position) { nodes_.Copy(position); }); };
+    window_.control("ME_Paste").on.click = [this] { rows_.paste([this](const std::string&) { onPaste(); }); };
     window_.control("ME_Insert").on.click = [this] { onInsert(); };
     window_.control("ME_Delete").on.click = [this] {
-        if (gridIsActive()) {
+        if (rows_.gridIsActive()) {
             onDelete();
         }
     };
-    window_.control("ME_Default").on.click = [this] { nodes_.SetDefault(current()); };
+    window_.control("ME_Default").on.click = [this] { nodes_.SetDefault(rows_.current()); };
     window_.control("M_Update").on.click = [this] { onUpdate(); };
     entry_.bindStandardControls();
 }
@@ -115,56 +115,19 @@ void NodeDetails::onNumber(int row, const std::string& text) {
 }
 
 void NodeDetails::onInsert() {
-    nodes_.Add(current());
+    nodes_.Add(rows_.current());
     grid().addItem("0", grid().row());
     ShowData();
     entry_.flags.FormChanged = true;
 }
 
 void NodeDetails::onDelete() {
-    const auto position = current();
-    const int top = grid().topRow();
-    grid().removeItem(grid().row());
-    nodes_.Delete(position);
-    restoreTopRow(grid(), top);
-    entry_.flags.FormChanged = true;
+    rows_.remove([this](Position position) { nodes_.Delete(position); });
     ShowData();
 }
 
-void NodeDetails::onCut() {
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^X");
-        return;
-    }
-    const auto position = current();
-    const int top = grid().topRow();
-    app_.desk.services().clipboard.setText(GridRowText(grid()));
-    grid().removeItem(grid().row());
-    nodes_.Cut(position);
-    restoreTopRow(grid(), top);
-}
-
-void NodeDetails::onCopy() {
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^C");
-        return;
-    }
-    app_.desk.services().clipboard.setText(GridRowText(grid()));
-    nodes_.Copy(current());
-}
-
 void NodeDetails::onPaste() {
-    if (!app_.desk.services().clipboard.text()) {
-        return;
-    }
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^V");
-        return;
-    }
-    const auto position = current();
+    const auto position = rows_.current();
     grid().addItem("0", grid().row());
     nodes_.Paste(position);
     ShowData();

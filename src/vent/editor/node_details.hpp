@@ -3,6 +3,7 @@
 #include "shell/entry/application.hpp"
 #include "shell/entry/entry_window.hpp"
 #include "shell/entry/grid_overlay.hpp"
+#include "shell/entry/row_commands.hpp"
 #include "vent/model/nodes.hpp"
 
 #include <cstdint>
@@ -51,15 +52,11 @@ private:
     void onNumber(int row, const std::string& text);
     void onInsert();
     void onDelete();
-    void onCut();
-    void onCopy();
     void onPaste();
     void onUpdate();
     void onClosing();
 
     [[nodiscard]] Grid& grid() const { return grid_.grid(); }
-    [[nodiscard]] Position current() const { return Position{grid().row() + 1}; }
-    [[nodiscard]] bool gridIsActive() const { return window_.activeControl == &grid_; }
 
     Application& app_;
     Window& window_;
@@ -67,6 +64,7 @@ private:
     cNodes& nodes_;
     EntryWindow entry_;
     Control& grid_;
+    RowCommands rows_;
     std::optional<GridOverlay> overlay_;
     std::int32_t CurNode_ = 1; ///< place of the shown node, from 1
     std::shared_ptr<cNode> ThisNode_;

@@ -60,7 +60,7 @@ Control& VentSections::buildGrid(Window& window) {
 
 VentSections::VentSections(Application& app, Window& window)
     : app_(app), window_(window), data_(app.DataSet), vents_(data_->Vents), entry_(app, window, Traits),
-      grid_(buildGrid(window)) {
+      grid_(buildGrid(window)), rows_(app, window, entry_.flags, grid_) {
     wire();
     vents_.VentList(grid());
     putGridOn(grid(), 0, 0);
@@ -82,12 +82,12 @@ void VentSections::wire() {
     overlay_.emplace(app_, entry_.flags, grid_, window_.control("gtext"), Columns, overlayRules());
     overlay_->bindDummy(window_.control("Dummy"));
     grid_.on.rightClick = [this](int) { window_.control("M_Edit").menu().popup = true; };
-    window_.control("ME_Cut").on.click = [this] { onCut(); };
-    window_.control("ME_Copy").on.click = [this] { onCopy(); };
-    window_.control("ME_Paste").on.click = [this] { onPaste(); };
+    window_.control("ME_Cut").on.click = [this] { rows_.cut([this](Position position) { vents_.Cut(position); }); };
+    window_.control("ME_Copy").on.click = [this] { rows_.copy([this](Position position) { vents_.Copy(position); }); };
+    window_.control("ME_Paste").on.click = [this] { rows_.paste([this](const std::string& text) { onPaste(text); }); };
     window_.control("ME_Delete").on.click = [this] { onDelete(); };
     window_.control("ME_Insert").on.click = [this] { onInsert(); };
-    window_.control("ME_Default").on.click = [this] { vents_.SetDefault(current()); };
+    window_.control("ME_Default").on.click = [this] { vents_.SetDefault(rows_.current()); };
     window_.control("cmdGoShafts").on.click = [this] { onShafts(); };
     entry_.bindStandardControls();
     entry_.closing = [this] { onClosing(); };
@@ -96,58 +96,20 @@ void VentSections::wire() {
 // What a person does with whole sections.
 
 void VentSections::onInsert() {
-    const auto section = vents_.Add(current());
+    const auto section = vents_.Add(rows_.current());
     grid().addItem(newRowText(*section), grid().row());
     entry_.flags.FormChanged = true;
 }
 
 void VentSections::onDelete() {
-    const auto position = current();
-    const int top = grid().topRow();
-    grid().removeItem(grid().row());
-    vents_.Delete(position);
-    entry_.flags.FormChanged = true;
-    restoreTopRow(grid(), top);
+    rows_.remove([this](Position position) { vents_.Delete(position); });
 }
 
-void VentSections::onCut() {
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^X");
-        return;
-    }
-    const auto position = current();
-    const int top = grid().topRow();
-    app_.desk.services().clipboard.setText(GridRowText(grid()));
-    grid().removeItem(grid().row());
-    vents_.Cut(position);
-    restoreTopRow(grid(), top);
-}
-
-void VentSections::onCopy() {
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^C");
-        return;
-    }
-    app_.desk.services().clipboard.setText(GridRowText(grid()));
-    vents_.Copy(current());
-}
-
-void VentSections::onPaste() {
-    const auto text = app_.desk.services().clipboard.text();
-    if (!text) {
-        return;
-    }
-    entry_.flags.FormChanged = true;
-    if (!gridIsActive()) {
-        app_.desk.sendKeys("^V");
-        return;
-    }
-    grid().addItem(*text, grid().row());
+void VentSections::onPaste(const std::string& text) {
+    grid().addItem(text, grid().row());
     // At the last row the model appends while the grid row goes ahead: the grid shows the last two swapped until it is opened
     // again.
-    vents_.Paste(current());
+    vents_.Paste(rows_.current());
     grid().setCurrentText("0");
 }
 
@@ -178,10 +140,10 @@ void VentSections::store(int row, int col, const std::string& text) {
 }
 
 void VentSections::onShafts() {
-    if (current().value > vents_.Count()) {
+    if (rows_.current().value > vents_.Count()) {
         return;
     }
-    app_.CurShaft = static_cast<std::int16_t>(current().value);
+    app_.CurShaft = static_cast<std::int16_t>(rows_.current().value);
     app_.desk.show("vshaft", true);
     app_.CurShaft = 0; // opened from anywhere else, it begins with the first shaft
 }

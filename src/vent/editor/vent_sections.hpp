@@ -3,6 +3,7 @@
 #include "shell/entry/application.hpp"
 #include "shell/entry/entry_window.hpp"
 #include "shell/entry/grid_overlay.hpp"
+#include "shell/entry/row_commands.hpp"
 #include "vent/model/vents.hpp"
 
 #include <memory>
@@ -27,14 +28,10 @@ private:
     void wire();
     [[nodiscard]] OverlayRules overlayRules();
     [[nodiscard]] Grid& grid() const { return grid_.grid(); }
-    [[nodiscard]] Position current() const { return Position{grid().row() + 1}; }
-    [[nodiscard]] bool gridIsActive() const { return window_.activeControl == &grid_; }
 
     void onInsert();
     void onDelete();
-    void onCut();
-    void onCopy();
-    void onPaste();
+    void onPaste(const std::string& text);
     void onShafts();
     void onClosing();
     void store(int row, int col, const std::string& text);
@@ -45,6 +42,7 @@ private:
     cVents& vents_;
     EntryWindow entry_;
     Control& grid_;
+    RowCommands rows_;
     std::optional<GridOverlay> overlay_;
 };
 

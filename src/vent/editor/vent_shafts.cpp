@@ -2,6 +2,7 @@
 
 #include "core/cards/numbers.hpp"
 #include "shell/entry/field_cycle.hpp"
+#include "shell/entry/row_commands.hpp"
 #include "vent/editor/shaft_controls.hpp"
 #include "vent/editor/window_tools.hpp"
 

@@ -36,14 +36,6 @@ void chooseOption(Window& window, std::string_view name, int index) {
     }
 }
 
-void restoreTopRow(Grid& grid, int top) {
-    grid.setTopRow(top < grid.rows() ? top : top - 1);
-    auto selection = grid.selection();
-    selection.startRow = 0;
-    selection.endRow = 0;
-    grid.select(selection);
-}
-
 void putGridOn(Grid& grid, int row, int col) {
     grid.setRow(row);
     grid.setCol(col);

@@ -27,9 +27,6 @@ void chooseEntry(Control& list, int entry);
 /// Checks the option button of that index and no other of that name; an index without a button checks none.
 void chooseOption(Window& window, std::string_view name, int index);
 
-/// After a row was removed: the top row is again what it was, or the one above when that is gone; no row stays selected but
-/// the first.
-void restoreTopRow(Grid& grid, int top);
 /// The grid stands on that row and column, and only that cell is selected. Nothing is raised.
 void putGridOn(Grid& grid, int row, int col);
 /// Gives the columns these widths, in twips; the captions above, a control array of that name, move along.
