@@ -1,3 +1,4 @@
+#include "rail/editor/number_row.hpp"
 #include "rail/editor/route_editor.hpp"
 #include "shell/entry/menus.hpp"
 #include "shell/entry/stacked_layout.hpp"
@@ -33,17 +34,7 @@ void addHead(Window& window, StackedLayout& stack) {
     id.text().fixedPitch = true;
     const std::array title{RowItem{label, 900}, RowItem{id, 7200}};
     stack.row(title);
-    auto& number = add(window, ControlKind::Label, "lblRtNo", "Route");
-    number.alignRight = true;
-    const std::array commands{RowItem{number, 900},
-                              RowItem{add(window, ControlKind::TextBox, "tbRtNo"), 700},
-                              RowItem{add(window, ControlKind::Spin, "Spin1"), 330},
-                              RowItem{add(window, ControlKind::Button, "cmdInsert", "Insert"), 1000},
-                              RowItem{add(window, ControlKind::Button, "cmdCut", "Cut"), 1000},
-                              RowItem{add(window, ControlKind::Button, "cmdCopy", "Copy"), 1000},
-                              RowItem{add(window, ControlKind::Button, "cmdPaste", "Paste"), 1000},
-                              RowItem{add(window, ControlKind::Button, "cmdDelete", "Delete"), 1000}};
-    stack.row(commands);
+    addNumberRow(window, stack, "lblRtNo", "Route", "tbRtNo");
 }
 
 /// Grid, overlay and stop of one page, as elements of their arrays, and the headings by the name of what the grid holds.

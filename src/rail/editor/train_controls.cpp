@@ -1,3 +1,4 @@
+#include "rail/editor/number_row.hpp"
 #include "rail/editor/train_editor.hpp"
 #include "shell/entry/menus.hpp"
 #include "shell/entry/stacked_layout.hpp"
@@ -27,17 +28,7 @@ void addHead(Window& window, StackedLayout& stack) {
     label.alignRight = true;
     const std::array title{RowItem{label, 900}, RowItem{add(window, ControlKind::TextBox, "tbTrainId"), 4200}};
     stack.row(title);
-    auto& number = add(window, ControlKind::Label, "lblTrnNo", "Train");
-    number.alignRight = true;
-    const std::array commands{RowItem{number, 900},
-                              RowItem{add(window, ControlKind::TextBox, "tbTrnNo"), 700},
-                              RowItem{add(window, ControlKind::Spin, "Spin1"), 330},
-                              RowItem{add(window, ControlKind::Button, "cmdInsert", "Insert"), 1000},
-                              RowItem{add(window, ControlKind::Button, "cmdCut", "Cut"), 1000},
-                              RowItem{add(window, ControlKind::Button, "cmdCopy", "Copy"), 1000},
-                              RowItem{add(window, ControlKind::Button, "cmdPaste", "Paste"), 1000},
-                              RowItem{add(window, ControlKind::Button, "cmdDelete", "Delete"), 1000}};
-    stack.row(commands);
+    addNumberRow(window, stack, "lblTrnNo", "Train", "tbTrnNo");
 }
 
 void addFields(LayoutPanel& panel, std::initializer_list<std::string_view> names) {
